@@ -1,0 +1,9 @@
+# Sanitizers and coverage hold for every target, so that all of a test process is watched.
+if(KITEGUI_SANITIZE)
+  add_compile_options(-fsanitize=${KITEGUI_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=${KITEGUI_SANITIZE})
+endif()
+if(KITEGUI_COVERAGE)
+  add_compile_options(--coverage -O0)
+  add_link_options(--coverage)
+endif()

@@ -1,0 +1,414 @@
+/*
+ * kitegui: a graphical user interface for host programs on X11 with Motif.
+ *
+ * A host program links this library, hands it one handler function and then works with plain
+ * integers and strings only. A complete host:
+ *
+ *     static int handle(int event, int id, int a, int b)
+ *     {
+ *         if (event == GUI_EVENT_COMMAND && id == GUI_COMMAND_CLOSE && guiYesNoBox("Leave?"))
+ *             guiClose(0);
+ *         return 0;
+ *     }
+ *
+ *     int main(void)
+ *     {
+ *         guiSetAppInfo("My Host", "myhost");
+ *         guiInit(handle);
+ *         return guiStart(handle);
+ *     }
+ *
+ * What holds for every function here:
+ *
+ *   - Thread: all calls come from the one thread that called guiInit. Handlers run on it, inside the
+ *     event loop; a handler may call anything here, also functions that wait for the user.
+ *   - Order: guiSetAppInfo (optional), guiInit, guiStart. A call that needs the frame and comes
+ *     before guiInit, or after the frame was closed, does nothing and returns its failure value.
+ *   - Strings: null-terminated bytes in the encoding of the fonts in use (ISO 8859-1 by default).
+ *     The library copies what it keeps. A null pointer is safe wherever a string is taken; each
+ *     function says what it means.
+ *   - Buffers: (char *buffer, int size) receive at most size - 1 bytes and are always terminated.
+ *   - Misuse is shown to the user in an error box (guiErrorBox) that waits for OK; the call then
+ *     returns its failure value. Each function quotes its messages.
+ *   - Errors are never thrown, and the library ends the process in one case only: guiInit could not
+ *     start.
+ *
+ * The host program also has to supply the seven host services declared at the end, or link the
+ * ready-made ones of the kitehost library.
+ */
+#ifndef KITEGUI_H
+#define KITEGUI_H
+
+#ifdef __cplusplus
+#include <cstdio>
+#endif
+
+#if defined(__GNUC__)
+#define KITEGUI_API __attribute__((visibility("default")))
+#else
+#define KITEGUI_API
+#endif
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* ---------------------------------------------------------------------------------------------
+ * Handlers and events
+ * ------------------------------------------------------------------------------------------ */
+
+/*
+ * A handler receives every user action as four integers: the event code, the id of the command or
+ * control it concerns, and two values that the event defines. Its result is ignored.
+ *
+ * Two kinds exist. The host callback is given once to guiInit; window handlers are given to guiStart
+ * (main frame) and to the dialog run calls. An event goes to the handler of the top window; when that
+ * window has none, to the host callback. While the host callback runs, the pointer is a watch, and
+ * any further event meant for the host callback is dropped. A window handler may be entered again
+ * while it waits in a box.
+ */
+typedef int (*GuiHandler)(int event, int id, int a, int b);
+
+/*
+ * A plug-in is one call into host code that can raise events: it gets the library's dispatcher, which
+ * delivers the four integers as if the user had acted. A negative result of a deferred plug-in is
+ * reported to the host callback as (GUI_EVENT_INIT, -1, 0, 0).
+ */
+typedef int (*GuiPlugin)(GuiHandler dispatch);
+
+/* A widget of the X toolkit: the same type as `Widget` of <X11/Intrinsic.h>. */
+typedef struct _WidgetRec *GuiWidget;
+
+/* Event codes. The comment gives the other three integers: id, a, b. */
+enum {
+    GUI_EVENT_INIT = 0,          /* 0, 0, 0: the frame is first shown, or a dialog is about to be shown.
+                                    -1, 0, 0: a deferred dialog or plug-in ended with a negative result */
+    GUI_EVENT_DROP = 10,         /* 0, 0, 0: a file name was dropped on the Output area (guiGetDropName) */
+    GUI_EVENT_COMMAND = 11,      /* command id, state (1 set, 0 cleared or plain), 0: a menu item or toolbar
+                                    button was chosen.
+                                    button id, 0, 0: a push button of a dialog was pressed.
+                                    0 (GUI_COMMAND_CLOSE), 0, 0: the window manager asked to close the
+                                    top window.
+                                    -1 to -12, 0, 0: F1 to F12 was pressed in the Output area */
+    GUI_EVENT_TEXT_CHANGED = 21, /* id, value, 0: an edit changed (1 when not empty, else 0; a combo box
+                                    always gives 0), or a spin box changed (its integer text) */
+    GUI_EVENT_CHECK = 22,        /* id, state, 0: a check box was toggled */
+    GUI_EVENT_RADIO = 23,        /* id, 1, 0: a radio button was selected */
+    GUI_EVENT_VALUE = 24,        /* id, value, 0: a choice or combo box selection (its position) or a
+                                    slider (its value) changed */
+    GUI_EVENT_SELECT = 25,       /* id, index from 0, 1 for a double click or 0 for a selection: list, tree */
+    GUI_EVENT_CURSOR = 26,       /* id, line from 0 (-1 when empty), column from 0: a multi-line text changed */
+    GUI_EVENT_KEY = 27,          /* -1, key code (below), 1 with Control held: a special key in a control */
+    GUI_EVENT_LEFT = 41,         /* id, 1, 0: a control lost the keyboard focus; delivered late */
+    GUI_EVENT_TIMER = 51,        /* 0, 0, 0: the periodic timer of guiTimer */
+    GUI_EVENT_HELP = 61,         /* id, 0, 0: help was requested on a control */
+    GUI_EVENT_CONTEXT = 62,      /* id, x, y: mouse button 3 was released on a control */
+    GUI_EVENT_HOVER = 63,        /* id, 0, 0: the pointer rested on a control for the hover delay */
+    GUI_EVENT_SCROLLED = 64      /* id, first visible line from 0, 0: a list, text or tree was scrolled */
+};
+
+/* Command ids with a meaning of their own. */
+enum {
+    GUI_COMMAND_CLOSE = 0,       /* the close command: also what a window manager's close request raises */
+    GUI_COMMAND_F1 = -1,         /* Fn in the Output area raises command -n, down to ... */
+    GUI_COMMAND_F12 = -12
+};
+
+/* Key codes of GUI_EVENT_KEY. F1 to F12 are 1 to 12. */
+enum {
+    GUI_KEY_F1 = 1,
+    GUI_KEY_F12 = 12,
+    GUI_KEY_UP = 13,             /* arrows: image and push button */
+    GUI_KEY_DOWN = 14,
+    GUI_KEY_LEFT = 15,
+    GUI_KEY_RIGHT = 16,
+    GUI_KEY_DELETE = 17,         /* these three: image, push button, choice and list */
+    GUI_KEY_INSERT = 18,
+    GUI_KEY_BACKSPACE = 19
+};
+
+/* Results of the standard boxes. */
+enum {
+    GUI_YES = 1,
+    GUI_OK = 1,
+    GUI_NO = 0,
+    GUI_CANCEL = -1,             /* guiYesNoCancelBox and guiGetTextBox; guiOkCancelBox answers GUI_NO */
+    GUI_FAILED = -1,
+    GUI_TIP_TAKEN_DOWN = -999    /* guiTipBox: the toolkit removed the note by itself */
+};
+
+/* ---------------------------------------------------------------------------------------------
+ * Start-up and the main frame
+ * ------------------------------------------------------------------------------------------ */
+
+/*
+ * Sets the application's title and name; call it before guiInit.
+ *
+ *   title  default title of the frame and of all boxes, icon name, and the name under which X resource
+ *          files address the widgets; at most 63 bytes are kept (default "Kite")
+ *   name   section of the user profile that holds every setting; at most 63 bytes (default "kite")
+ *
+ * A null or empty argument leaves that one as it was. From here on toolkit warnings are dropped
+ * silently. The result is of no use.
+ */
+KITEGUI_API int guiSetAppInfo(const char *title, const char *name);
+
+/*
+ * Starts the library: opens the display named by $DISPLAY, reads the settings, starts the log when
+ * "logfm" asks for it, and shows the main frame at its saved place, or centred with 450 by 300 pixels
+ * when the saved place does not fit the screen or is smaller than 300 by 200.
+ *
+ *   callback  the host callback, or null. Without any handler the frame can still be closed by the
+ *             window manager.
+ *
+ * When the display, the shell or the main window cannot be had, it prints "Cannot open display",
+ * "Cannot create the application shell" or "Cannot create the main window" on standard output and
+ * ends the process with status 1. A second call while a frame or its display is open does nothing.
+ */
+KITEGUI_API void guiInit(GuiHandler callback);
+
+/* Sets the title of the frame's window. Null or empty restores the application title. */
+KITEGUI_API void guiSetFrameTitle(const char *title);
+
+/* Shows a text in the status line, at once. Null or empty blanks it. */
+KITEGUI_API void guiSetStatusLine(const char *text);
+
+/* Shows the gauge of the status bar at a percentage, at once. Values are clamped to 0 to 100. */
+KITEGUI_API void guiSetProgress(int percent);
+
+/*
+ * Moves, resizes, restores or iconifies the frame.
+ *
+ *   x, y   left and top edge in pixels of the screen
+ *   w, h   width and height in pixels
+ *
+ * With w and h both non-zero the frame is restored from its icon and placed; a negative argument keeps
+ * the current value, and values beyond 32767, the largest that X knows, count as 32767. When w or h is
+ * 0 the frame is iconified. Returns 0.
+ */
+KITEGUI_API int guiMoveWin(int x, int y, int w, int h);
+
+/*
+ * Takes the frame back to its state before the host built its commands: the building of menus begins
+ * again at the menu bar (menus that stand there stay), the toolbar is empty, the title is the application
+ * title, the Output area is cleared (of the selected text only, when some is selected), the status line
+ * and the gauge are blank. The next event delivered is followed by GUI_EVENT_INIT again. Returns 0.
+ */
+KITEGUI_API int guiRestart(void);
+
+/*
+ * The top window: the widget whose handler receives events and which is the parent of new boxes: the
+ * main window, or the newest dialog or box. Null before guiInit and after the frame was closed.
+ */
+KITEGUI_API GuiWidget guiGetTopWnd(void);
+
+/*
+ * Makes a widget of the host's the top window. The host's handler for it, if any, stands in the
+ * widget's XmNuserData. Null means no top window. When the widget is destroyed the main window is the
+ * top window again.
+ */
+KITEGUI_API void guiSetTopWnd(GuiWidget widget);
+
+/*
+ * The window that the window manager put around the frame, learnt while events are processed, or 666
+ * while none is known. Its offset is taken off the saved position when the frame closes.
+ */
+KITEGUI_API extern int decorWindow;
+
+/* ---------------------------------------------------------------------------------------------
+ * Event loop, timer and closing
+ * ------------------------------------------------------------------------------------------ */
+
+/*
+ * Runs the main loop: shows the frame, delivers GUI_EVENT_INIT and then every event until the frame is
+ * closed; then closes the display.
+ *
+ *   handler  the main frame's window handler, or null to use the host callback
+ *
+ * Returns 0; -1 at once when there is no frame or a main loop runs already.
+ */
+KITEGUI_API int guiStart(GuiHandler handler);
+
+/*
+ * Closes the top window: a running dialog ends with the given code as its result; a box ends as if its
+ * window had been closed; for the main frame the geometry is saved (profile keys "mwndx", "mwndy",
+ * "mwndw", "mwndh", unless "mwndp" is 0 or the frame is iconified), the log is stopped, the frame is
+ * destroyed and guiStart returns.
+ *
+ *   code  0 or more; a negative one shows "Close: negative return code - 0 is used"
+ *
+ * No event is delivered meanwhile. Nothing happens when no window is open. The result is of no use.
+ */
+KITEGUI_API int guiClose(int code);
+
+/*
+ * Starts the periodic timer, which delivers GUI_EVENT_TIMER.
+ *
+ *   milliseconds  100 or more: start, or restart with this interval; less than 100: stop
+ *
+ * There is one timer. The next interval begins when the handler has returned.
+ */
+KITEGUI_API void guiTimer(int milliseconds);
+
+/*
+ * Returns 1 when the user has pressed Control+F10 since the last call, else 0: a long computation calls
+ * it now and then. All key presses waiting at that moment are used up.
+ */
+KITEGUI_API int guiUserBreak(void);
+
+/* Rings the display's bell at volume 50. */
+KITEGUI_API void guiBeep(void);
+
+/*
+ * Asks for a plug-in to run as soon as the handler that is running now has returned. One can be
+ * waiting; a second call replaces it, null withdraws it. A dialog asked for at the same time goes first.
+ */
+KITEGUI_API void guiStartPlugin(GuiPlugin plugin);
+
+/*
+ * Runs a plug-in now and returns its result (-1 for null). A plug-in that waits is withdrawn.
+ */
+KITEGUI_API int guiRunPlugin(GuiPlugin plugin);
+
+/*
+ * For a host with an Xt application of its own and no main frame: makes the host's widget the parent of
+ * boxes and takes the display and the application context from it. Null changes nothing.
+ */
+KITEGUI_API void guiSetOwner(GuiWidget owner);
+
+/*
+ * Fetches the file name last dropped on the Output area and forgets it.
+ *
+ *   buffer, size  receives the name; it is kept for another call when it does not fit (its length is
+ *                 size or more). Names are cut at 1023 bytes when they are dropped.
+ *
+ * Returns the length; -1 with an empty buffer when there is no name or it does not fit; -1 after
+ * "GetDropName: invalid buffer" for a null buffer or a size below 2.
+ */
+KITEGUI_API int guiGetDropName(char *buffer, int size);
+
+/* ---------------------------------------------------------------------------------------------
+ * Standard boxes
+ *
+ * All but the tip are modal for the whole application: the call returns when the user has answered.
+ * The title is the application title. Message texts may hold several lines, divided by "\n"; a null
+ * text counts as empty. Without a window to belong to (before guiInit, no owner) no box is shown and the
+ * call returns what it returns for a closed window.
+ * ------------------------------------------------------------------------------------------ */
+
+/* Shows an information with an OK button. */
+KITEGUI_API void guiInfoBox(const char *message);
+
+/* Shows an error with an OK button, under the application title followed by " Error". */
+KITEGUI_API void guiErrorBox(const char *message);
+
+/*
+ * Shows a small note at the pointer until the next click or until the pointer enters or leaves it.
+ * Returns 0, or GUI_TIP_TAKEN_DOWN when the toolkit removed the note (Escape, a click elsewhere); 0
+ * at once when there is no main frame.
+ */
+KITEGUI_API int guiTipBox(const char *text);
+
+/* Asks with OK and Cancel. Returns 1 for OK; 0 for Cancel or a closed window. */
+KITEGUI_API int guiOkCancelBox(const char *message);
+
+/* Asks with Yes and No. Returns 1 for Yes; 0 for No or a closed window. */
+KITEGUI_API int guiYesNoBox(const char *message);
+
+/* Asks with Yes, No and Cancel. Returns 1 for Yes, 0 for No, -1 for Cancel or a closed window. */
+KITEGUI_API int guiYesNoCancelBox(const char *message);
+
+/*
+ * Asks for one line of text.
+ *
+ *   prompt        the text above the field
+ *   buffer, size  holds the text the field starts with, and receives the answer: at most size - 1 bytes
+ *   hidden        non-zero: what is typed cannot be read (passwords)
+ *
+ * Returns the length of the answer after OK; -1, with an empty buffer, after Cancel or a closed window;
+ * -1 after "GetTextBox: invalid buffer" for a null buffer or a size below 2.
+ */
+KITEGUI_API int guiGetTextBox(const char *prompt, char *buffer, int size, int hidden);
+
+/* ---------------------------------------------------------------------------------------------
+ * Host services: functions that the host program defines and the library calls
+ *
+ * The section is always the application name. kitehost has all seven ready-made.
+ * ------------------------------------------------------------------------------------------ */
+
+/* The integer stored under the key, or defaultValue when there is none. */
+int kxGetUPInt(const char *section, const char *key, int defaultValue);
+
+/* Stores an integer under the key. */
+void kxSetUPInt(const char *section, const char *key, int value);
+
+/*
+ * Copies the string stored under the key into the buffer: at most size bytes with the terminating null.
+ * Leaves the buffer as it is when there is none.
+ */
+void kxGetUPStr(const char *section, const char *key, char *buffer, int size);
+
+/* The application directory, ending with a path separator: images are looked for below it. */
+const char *kxAppDir(void);
+
+/* The full path name of a file. The library copies the result at once. */
+const char *kxFullName(const char *path);
+
+/* The index in the path at which the file name begins, behind the directory. */
+int kxLocNamePos(const char *path);
+
+/* Runs a command line; the library passes 1 for both flags. Returns -1 when it could not be run. */
+int kxExec(const char *commandLine, int flag1, int flag2);
+
+#ifdef __cplusplus
+}
+
+/* ---------------------------------------------------------------------------------------------
+ * Log file (C++ only)
+ * ------------------------------------------------------------------------------------------ */
+
+/*
+ * A plain text log, framed by a start line and a stop line with the local date and time:
+ *
+ *     >>>LogStarted: 2026.01.31 08:15:00
+ *
+ *     what was written
+ *
+ *     >>>LogStopped: 2026.01.31 17:00:00
+ *
+ * The file is opened and closed around every call, so what was written is on disk even if the host
+ * dies. No call reports an error: what cannot be written is not, and the next call tries again.
+ */
+class KITEGUI_API LogFile {
+public:
+    LogFile() = default;
+    LogFile(const LogFile &) = delete;
+    LogFile &operator=(const LogFile &) = delete;
+
+    /* Writes a last stop line when a log was started. */
+    ~LogFile();
+
+    /*
+     * Begins a log in the file `path`; null or empty begins none. A log that was written before gets
+     * its stop line first. With `truncate` non-zero the file is emptied, else it is continued behind an
+     * empty line.
+     */
+    void start(const char *path, int truncate);
+
+    /* Appends a text; with `asLine` non-zero it ends with a newline. Null writes nothing. */
+    void write(const char *text, int asLine);
+
+    /*
+     * Appends the stop line, behind an empty line unless the last line was empty. A second call writes
+     * a second stop line. Without a log nothing happens.
+     */
+    void stop();
+
+private:
+    std::FILE *stream = nullptr;  /* non-null once a log was started or written; open only inside a call */
+    int endsWithBlankLine = 0;
+    char *path = nullptr;         /* owned copy */
+};
+#endif
+
+#endif

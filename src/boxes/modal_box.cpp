@@ -1,0 +1,112 @@
+#include "boxes/modal_box.h"
+
+#include <Xm/MessageB.h>
+#include <Xm/SelectioB.h>
+
+#include <string>
+
+#include "frame/app_info.h"
+#include "frame/frame_fonts.h"
+#include "frame/top_window.h"
+#include "toolkit/nested_loop.h"
+#include "toolkit/resources.h"
+#include "toolkit/shells.h"
+
+namespace kite {
+
+namespace {
+
+Widget create(const ModalBox::Look& look, const char* text, const char* initialText)
+{
+    Widget const parent = boxParent();
+    if (!parent) return nullptr;
+    const CompoundString title{(std::string{appTitle()} + look.titleSuffix).c_str()};
+    const CompoundString message{text};
+    const CompoundString initial{initialText};
+    Arg arguments[5];
+    Cardinal count = 0;
+    XtSetArg(arguments[count], XmNdialogStyle, XmDIALOG_FULL_APPLICATION_MODAL), ++count;
+    XtSetArg(arguments[count], XmNnoResize, True), ++count;
+    XtSetArg(arguments[count], XmNdialogTitle, title.get()), ++count;
+    XtSetArg(arguments[count], look.textResource, message.get()), ++count;
+    if (initialText) XtSetArg(arguments[count], XmNtextString, initial.get()), ++count;
+    return look.create(parent, const_cast<char*>(look.widgetName), arguments, count);
+}
+
+}  // namespace
+
+ModalBox::ModalBox(const Look& look, const char* text, const char* initialText)
+    : box_(create(look, text, initialText))
+{
+}
+
+ModalBox::~ModalBox()
+{
+    Widget const box = box_.get();
+    if (!box) return;
+    XtUnmanageChild(box);
+    XtDestroyWidget(XtParent(box));
+}
+
+Widget ModalBox::child(unsigned char which) const
+{
+    return XmIsMessageBox(box_.get()) ? XmMessageBoxGetChild(box_.get(), which)
+                                      : XmSelectionBoxGetChild(box_.get(), which);
+}
+
+void ModalBox::removeParts(std::initializer_list<unsigned char> parts)
+{
+    for (const unsigned char part : parts)
+        if (Widget const widget = child(part)) XtUnmanageChild(widget);
+}
+
+void ModalBox::useDialogFont(std::initializer_list<Widget> parts)
+{
+    for (Widget const part : parts) frameFonts::apply(part, frameFonts::dialog());
+}
+
+void ModalBox::finishButtons(ButtonWidth width, const std::vector<Widget>& buttons)
+{
+    const bool isTriple = width == ButtonWidth::TripleOk;
+    const auto natural =
+        resource<Dimension>(child(isTriple ? XmDIALOG_OK_BUTTON : XmDIALOG_CANCEL_BUTTON), XmNwidth);
+    for (Widget const button : buttons)
+        XtVaSetValues(button, XmNrecomputeSize, False, XmNwidth, isTriple ? natural * 3 : natural,
+                      XmNshadowThickness, 2, XmNhighlightThickness, 1,
+                      XmNdefaultButtonShadowThickness, 0, XmNshowAsDefault, 0, nullptr);
+}
+
+ModalBox::Answer* ModalBox::newAnswer(int value)
+{
+    Answer* const answer = &answers_[answerCount_++];
+    *answer = {&result_, value};
+    return answer;
+}
+
+void ModalBox::answered(Widget, XtPointer answer, XtPointer)
+{
+    const auto* given = static_cast<Answer*>(answer);
+    *given->result = given->value;
+}
+
+void ModalBox::answerOnPress(Widget button, int answer)
+{
+    XtAddCallback(button, XmNactivateCallback, answered, newAnswer(answer));
+}
+
+void ModalBox::answerOnClose(int answer)
+{
+    whenClosed_ = answer;
+    onCloseRequest(XtParent(box_.get()), answered, newAnswer(answer));
+}
+
+int ModalBox::run()
+{
+    Widget const box = box_.get();
+    const TopWindowScope shown{box};
+    XtManageChild(box);
+    processEventsWhile(box, [this] { return result_ == kPending && box_; });
+    return result_ == kPending ? whenClosed_ : result_;
+}
+
+}  // namespace kite

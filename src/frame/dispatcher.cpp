@@ -1,0 +1,126 @@
+#include "frame/dispatcher.h"
+
+#include <Xm/Xm.h>
+
+#include "frame/busy_cursor.h"
+#include "frame/deferred_start.h"
+#include "frame/top_window.h"
+#include "toolkit/resources.h"
+
+namespace kite {
+
+namespace {
+
+struct Event {
+    int code, id, a, b;
+
+    bool isCloseRequest() const { return code == GUI_EVENT_COMMAND && id == GUI_COMMAND_CLOSE; }
+};
+
+struct {
+    GuiHandler hostCallback = nullptr;             // set once by guiInit
+    dispatcher::FrameActions frame{nullptr, nullptr};  // set by guiInit
+    bool started = false;         // set by guiStart and the first event, cleared by guiRestart
+    bool suppressed = false;      // raised and lowered by EventsSuppressed
+    bool inHostCallback = false;  // raised and lowered by callHost
+} state;
+
+GuiHandler handlerOf(Widget window)
+{
+    if (!window) return nullptr;
+    return reinterpret_cast<GuiHandler>(resource<XtPointer>(window, XmNuserData));
+}
+
+void callHandler(GuiHandler handler, const Event& event)
+{
+    const deferred::HandlerRunning running;
+    handler(event.code, event.id, event.a, event.b);
+}
+
+// False when the host callback is running already: the event is dropped.
+bool callHost(const Event& event)
+{
+    if (state.inHostCallback) return false;
+    state.inHostCallback = true;
+    {
+        const BusyCursor busy{event.code == GUI_EVENT_INIT};
+        callHandler(state.hostCallback, event);
+    }
+    state.inHostCallback = false;
+    return true;
+}
+
+// False when nobody got to see the event.
+bool deliver(const Event& event)
+{
+    if (const GuiHandler handler = handlerOf(topWindow())) {
+        callHandler(handler, event);
+        return true;
+    }
+    if (state.hostCallback) return callHost(event);
+    if (event.isCloseRequest() && state.frame.close) state.frame.close();
+    return true;
+}
+
+void showFrameOnce()
+{
+    if (state.started) return;
+    state.started = true;
+    if (state.frame.show) state.frame.show();
+}
+
+void runDeferredStarts()
+{
+    // A negative result is reported to the host callback, also when the window has a handler of its
+    // own; that call is a handler too, and what it asks for has waited for it.
+    auto result = deferred::runOne();
+    while (result && *result < 0 && state.hostCallback && callHost({GUI_EVENT_INIT, -1, 0, 0}))
+        result = deferred::runOne();
+}
+
+}  // namespace
+
+void raise(int event, int id, int a, int b)
+{
+    if (state.suppressed) return;
+    // A dropped event must not show the frame or start what the running handler only asked for.
+    if (!deliver({event, id, a, b})) return;
+    showFrameOnce();
+    runDeferredStarts();
+}
+
+namespace dispatcher {
+
+void setHostCallback(GuiHandler callback)
+{
+    state.hostCallback = callback;
+}
+
+void setFrameActions(const FrameActions& actions)
+{
+    state.frame = actions;
+}
+
+bool isStarted()
+{
+    return state.started;
+}
+
+void setStarted(bool started)
+{
+    state.started = started;
+}
+
+}  // namespace dispatcher
+
+EventsSuppressed::EventsSuppressed()
+{
+    state.suppressed = true;
+}
+
+EventsSuppressed::~EventsSuppressed()
+{
+    state.suppressed = false;
+}
+
+}  // namespace kite

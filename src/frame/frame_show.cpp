@@ -1,0 +1,55 @@
+// frame_show.cpp: the step that shows what the host has built.
+
+#include <Xm/MainW.h>
+#include <Xm/Text.h>
+#include <kitegui.h>
+
+#include "frame/dispatcher.h"
+#include "frame/frame_widgets.h"
+#include "frame/main_frame.h"
+#include "toolkit/resources.h"
+
+namespace kite::frame {
+
+namespace {
+
+bool hasToolbarButtons(const Widgets& frame)
+{
+    return frame.toolbar && resource<Cardinal>(frame.toolbar, XmNnumChildren) > 0;
+}
+
+// The main window would stack its areas by their own wishes; here the toolbar's height is fixed, and
+// what it takes comes off the Output area.
+void placeToolbar(const Widgets& frame)
+{
+    const int menuHeight = resource<Dimension>(frame.menuBar, XmNheight);
+    const int scrollerTop = resource<Position>(frame.scroller, XmNy);
+    const int scrollerHeight = resource<Dimension>(frame.scroller, XmNheight);
+    const int lowered = menuHeight + kToolbarHeight - scrollerTop;
+    XtVaSetValues(frame.toolbar, XmNx, 0, XmNy, menuHeight, XmNwidth,
+                  resource<Dimension>(frame.menuBar, XmNwidth), XmNheight, kToolbarHeight, nullptr);
+    XtVaSetValues(frame.scroller, XmNy, scrollerTop + lowered, XmNheight, scrollerHeight - lowered,
+                  nullptr);
+}
+
+}  // namespace
+
+void show()
+{
+    if (!widgets().mainWindow) return;
+    raise(GUI_EVENT_INIT);
+    if (!widgets().mainWindow) return;  // the host has closed the frame already
+
+    const bool hasToolbar = hasToolbarButtons(widgets());
+    if (!hasToolbar && widgets().toolbar) dropToolbar();
+    const Widgets& frame = widgets();
+    XtManageChild(frame.menuBar);
+    if (hasToolbar) XtManageChild(frame.toolbar);
+    XtVaSetValues(frame.mainWindow, XmNmenuBar, frame.menuBar, XmNcommandWindow, frame.toolbar,
+                  nullptr);
+    if (hasToolbar) placeToolbar(frame);
+    XmTextSetInsertionPosition(frame.text, XmTextGetLastPosition(frame.text));
+    XFlush(XtDisplay(frame.text));
+}
+
+}  // namespace kite::frame

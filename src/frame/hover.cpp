@@ -1,0 +1,91 @@
+#include "frame/hover.h"
+
+#include <Xm/Label.h>
+
+#include <string>
+
+#include "frame/session.h"
+#include "frame/top_window.h"
+#include "toolkit/colours.h"
+#include "toolkit/compound_string.h"
+
+namespace kite::hover {
+
+namespace {
+
+constexpr char kTipName[] = "v_tooltip";
+constexpr int kBelowPointer = 20;                       // pixels, clear of the pointer's own shape
+constexpr Colour kTipBackground{0xFFFF, 0xFFFF, 0xFFAA};
+
+struct {
+    int delay = -1;         // set by setDelay
+    XtIntervalId timer = 0; // the one pending time-out, 0 when there is none
+    std::string tip;        // what it will show
+} state;
+
+struct Point {
+    int x, y;
+};
+
+Point pointerIn(Widget window)
+{
+    Window root, child;
+    int rootX, rootY;
+    Point pointer{};
+    unsigned int buttons;
+    XQueryPointer(XtDisplay(window), XtWindow(window), &root, &child, &rootX, &rootY, &pointer.x,
+                  &pointer.y, &buttons);
+    return pointer;
+}
+
+// Left unmanaged: it floats above its siblings and takes no part in the window's layout.
+void showTip(Widget window)
+{
+    const Point pointer = pointerIn(window);
+    const CompoundString text{state.tip.c_str()};
+    Widget tip = XtVaCreateWidget(
+        kTipName, xmLabelWidgetClass, window, XmNx, pointer.x, XmNy, pointer.y + kBelowPointer,
+        XmNborderWidth, 1, XmNbackground, allocateColour(window, kTipBackground), XmNforeground,
+        blackPixel(window), XmNborderColor, blackPixel(window), XmNlabelString, text.get(), nullptr);
+    XtRealizeWidget(tip);
+    XMapRaised(XtDisplay(tip), XtWindow(tip));
+}
+
+void timedOut(XtPointer, XtIntervalId*)
+{
+    state.timer = 0;
+    Widget const window = topWindow();
+    if (window && XtIsComposite(window) && XtIsRealized(window)) showTip(window);
+}
+
+}  // namespace
+
+void setDelay(int milliseconds)
+{
+    state.delay = milliseconds;
+}
+
+void enterWithTip(const char* tip)
+{
+    if (state.delay < 0 || !session::application()) return;
+    cancel();
+    state.tip = tip;
+    state.timer = XtAppAddTimeOut(session::application(), static_cast<unsigned long>(state.delay),
+                                  timedOut, nullptr);
+}
+
+void leave()
+{
+    cancel();
+    Widget const window = topWindow();
+    Widget const tip = window && XtIsComposite(window) ? XtNameToWidget(window, kTipName) : nullptr;
+    if (tip) XtDestroyWidget(tip);
+}
+
+void cancel()
+{
+    if (state.timer) XtRemoveTimeOut(state.timer);
+    state.timer = 0;
+}
+
+}  // namespace kite::hover

@@ -1,0 +1,48 @@
+#include "frame/keyboard.h"
+
+#include <kitegui.h>
+
+#include "frame/dispatcher.h"
+#include "frame/hover.h"
+#include "frame/session.h"
+#include "frame/top_window.h"
+#include "toolkit/key_symbol.h"
+
+namespace kite {
+
+namespace {
+
+void keyPressed(Widget, XtPointer, XEvent* event, Boolean*)
+{
+    // Whatever modifiers are held: Shift+F1 is F1 here.
+    const int number = functionKeyNumber(keySymbolOf(&event->xkey));
+    if (number == 0) return;
+    hover::cancel();
+    raise(GUI_EVENT_COMMAND, -number);
+}
+
+bool isUserBreak(XKeyEvent* press)
+{
+    return (press->state & ControlMask) && functionKeyNumber(keySymbolOf(press)) == 10;
+}
+
+}  // namespace
+
+void raiseFunctionKeyCommands(Widget text)
+{
+    XtAddEventHandler(text, KeyPressMask, False, keyPressed, nullptr);
+}
+
+}  // namespace kite
+
+int guiUserBreak(void)
+{
+    if (!kite::boxParent()) return 0;
+    // All of them are taken, also those behind the break: keys pressed during a computation that is
+    // given up are not meant for what comes after it.
+    int isBroken = 0;
+    XEvent event;
+    while (XCheckTypedEvent(kite::session::display(), KeyPress, &event))
+        if (kite::isUserBreak(&event.xkey)) isBroken = 1;
+    return isBroken;
+}

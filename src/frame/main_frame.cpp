@@ -1,0 +1,127 @@
+#include "frame/main_frame.h"
+
+#include <Xm/MainW.h>
+#include <Xm/Text.h>
+#include <kitegui.h>
+
+#include <cstdio>
+#include <cstdlib>
+
+#include "frame/app_info.h"
+#include "frame/decoration.h"
+#include "frame/dispatcher.h"
+#include "frame/frame_fonts.h"
+#include "frame/frame_widgets.h"
+#include "frame/hover.h"
+#include "frame/log_file.h"
+#include "frame/saved_geometry.h"
+#include "frame/session.h"
+#include "frame/top_window.h"
+#include "toolkit/resources.h"
+#include "toolkit/shells.h"
+
+namespace kite::frame {
+
+namespace {
+
+Widgets frame;  // made by guiInit, emptied when the main window is destroyed
+
+[[noreturn]] void failAtStart(const char* message)
+{
+    std::puts(message);
+    std::exit(EXIT_FAILURE);
+}
+
+// Kept for hosts' profiles that set "spsec"; nothing hangs on it.
+void runStartupHook() {}
+
+void startLog()
+{
+    const int mode = settings::logMode();
+    if (mode > 0) outputLog().start(settings::logFileName().c_str(), mode == 1);
+}
+
+savedGeometry::Size screenSize()
+{
+    Screen* const screen = XDefaultScreenOfDisplay(session::display());
+    return {WidthOfScreen(screen), HeightOfScreen(screen)};
+}
+
+void closeRequested(Widget, XtPointer, XtPointer)
+{
+    hover::cancel();
+    // While a dialog or box is open, the frame behind it cannot be closed.
+    if (topWindow() == mainWindow())
+        raise(GUI_EVENT_COMMAND, GUI_COMMAND_CLOSE);
+    else
+        guiBeep();
+}
+
+void mainWindowDestroyed(Widget, XtPointer, XtPointer)
+{
+    frame = {};
+}
+
+// A host without any handler can still be closed.
+void closeUnhandled()
+{
+    guiRestart();
+    guiClose(0);
+}
+
+void build()
+{
+    const auto geometry = savedGeometry::toOpenWith(settings::savedGeometry(), screenSize());
+    frame.shell = createShell(geometry);
+    if (!frame.shell) failAtStart("Cannot create the application shell");
+    frame.mainWindow = createMainWindow(frame.shell);
+    if (!frame.mainWindow) failAtStart("Cannot create the main window");
+    XtAddCallback(frame.mainWindow, XmNdestroyCallback, mainWindowDestroyed, nullptr);
+    setMainWindow(frame.mainWindow);
+    setTopWindow(frame.mainWindow);
+    onCloseRequest(frame.shell, closeRequested, nullptr);
+    watchDecoration(frame.shell);
+
+    frameFonts::load(session::display());
+    createContents(frame);
+    hover::setDelay(settings::hoverDelay());
+    XtManageChild(frame.mainWindow);
+    XtRealizeWidget(frame.shell);
+}
+
+}  // namespace
+
+const Widgets& widgets()
+{
+    static const Widgets none;
+    return mainWindow() ? frame : none;
+}
+
+void recreateToolbar()
+{
+    if (frame.toolbar) XtDestroyWidget(frame.toolbar);
+    frame.toolbar = createToolbar(frame.mainWindow);
+}
+
+void dropToolbar()
+{
+    XtDestroyWidget(frame.toolbar);
+    frame.toolbar = nullptr;
+}
+
+void start(GuiHandler callback)
+{
+    dispatcher::setHostCallback(callback);
+    dispatcher::setFrameActions({show, closeUnhandled});
+    if (!session::open(appTitle(), kApplicationClass)) failAtStart("Cannot open display");
+    if (settings::startupHook() > 0) runStartupHook();
+    startLog();
+    build();
+}
+
+}  // namespace kite::frame
+
+void guiInit(GuiHandler callback)
+{
+    if (!kite::session::isOpen()) kite::frame::start(callback);
+}

@@ -1,0 +1,35 @@
+// main_frame.h: the application's one frame and what it is made of.
+
+#pragma once
+
+#include <X11/Intrinsic.h>
+
+namespace kite::frame {
+
+// The widgets of the frame; the toolbar is null while the host has made no button for it.
+struct Widgets {
+    Widget shell = nullptr;
+    Widget mainWindow = nullptr;
+    Widget menuBar = nullptr;
+    Widget toolbar = nullptr;
+    Widget scroller = nullptr;
+    Widget text = nullptr;
+    Widget statusBar = nullptr;
+    Widget statusLine = nullptr;
+    Widget gauge = nullptr;
+};
+
+// All null before the frame is built and once it is closed.
+const Widgets& widgets();
+
+// The frame without its toolbar, and with an empty one.
+void dropToolbar();
+void recreateToolbar();
+
+// Shows the host's commands: raises event 0, then puts menu bar and toolbar into place.
+void show();
+
+// Saves the geometry, stops the log and destroys the frame.
+void close();
+
+}  // namespace kite::frame

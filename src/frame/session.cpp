@@ -1,0 +1,96 @@
+#include "frame/session.h"
+
+#include "toolkit/widget_ref.h"
+
+namespace kite::session {
+
+namespace {
+
+struct {
+    XtAppContext application = nullptr;  // ours (open, close) or the owner's (setOwner)
+    Display* display = nullptr;          // the same
+    XtAppContext opened = nullptr;       // ours, from open() to close()
+    WidgetRef owner;                     // set by setOwner
+    int generation = 0;                  // raised by open() and setOwner()
+    bool dropsWarnings = false;          // set by dropToolkitWarnings, for contexts still to come
+} state;
+
+void ignoreWarning(String) {}
+
+void applyWarningPolicy()
+{
+    if (state.dropsWarnings && state.application)
+        XtAppSetWarningHandler(state.application, ignoreWarning);
+}
+
+}  // namespace
+
+bool open(const char* applicationName, const char* applicationClass)
+{
+    static const bool initialized = (XtToolkitInitialize(), true);
+    static_cast<void>(initialized);
+    state.application = XtCreateApplicationContext();
+    state.opened = state.application;
+    ++state.generation;
+    applyWarningPolicy();
+
+    char program[] = "vex";
+    char* arguments[] = {program, nullptr};
+    int count = 1;
+    state.display = XtOpenDisplay(state.application, nullptr, applicationName, applicationClass,
+                                  nullptr, 0, &count, arguments);
+    return state.display != nullptr;
+}
+
+void close()
+{
+    if (!state.opened) return;
+    XtDestroyApplicationContext(state.opened);
+    if (state.application == state.opened) {
+        state.application = nullptr;
+        state.display = nullptr;
+    }
+    state.opened = nullptr;
+}
+
+bool isOpen()
+{
+    return state.opened != nullptr;
+}
+
+int generation()
+{
+    return state.generation;
+}
+
+Display* display()
+{
+    return state.display;
+}
+
+XtAppContext application()
+{
+    return state.application;
+}
+
+void setOwner(Widget owner)
+{
+    state.owner.reset(owner);
+    state.application = XtWidgetToApplicationContext(owner);
+    state.display = XtDisplayOfObject(owner);
+    ++state.generation;
+    applyWarningPolicy();
+}
+
+Widget owner()
+{
+    return state.owner.get();
+}
+
+void dropToolkitWarnings()
+{
+    state.dropsWarnings = true;
+    applyWarningPolicy();
+}
+
+}  // namespace kite::session

@@ -1,0 +1,139 @@
+#include "frame/settings.h"
+
+#include <clocale>
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+#include <locale.h>
+#include <vector>
+
+#include "frame/app_info.h"
+#include "frame/host_services.h"
+
+namespace kite::settings {
+
+namespace {
+
+struct IntKey {
+    const char* name;
+    int byDefault;
+};
+
+struct StringKey {
+    const char* name;
+    int size;  // bytes that the host may write, with the terminating null
+    const char* byDefault;
+};
+
+constexpr char kHelvetica[] = "-adobe-helvetica-medium-r-normal--14-100-100-100-p-*-iso8859-1";
+constexpr char kFixed[] = "-misc-fixed-medium-r-normal--14-110-100-100-c-*-iso8859-1";
+
+// Every key that the profile may hold.
+constexpr IntKey kStartupHook{"spsec", 0};
+constexpr IntKey kLogMode{"logfm", 0};
+constexpr StringKey kLogFileName{"logfn", 1024, "output.log"};
+constexpr IntKey kFrameX{"mwndx", -1};
+constexpr IntKey kFrameY{"mwndy", -1};
+constexpr IntKey kFrameWidth{"mwndw", -1};
+constexpr IntKey kFrameHeight{"mwndh", -1};
+constexpr IntKey kSavesGeometry{"mwndp", 1};
+constexpr StringKey kStatusLineFont{"fnamm", 128, kHelvetica};
+constexpr StringKey kMenuBarFont{"fnamn", 128, kHelvetica};
+constexpr StringKey kOutputFont{"fnamt", 128, kFixed};
+constexpr IntKey kDropDownHeight{"ch_height", 128};
+constexpr StringKey kHoverDelay{"mouse_hover", 64, ""};
+
+constexpr int kDefaultHoverDelay = 2000;  // milliseconds
+
+int read(const IntKey& key)
+{
+    return kxGetUPInt(appName(), key.name, key.byDefault);
+}
+
+void write(const IntKey& key, int value)
+{
+    kxSetUPInt(appName(), key.name, value);
+}
+
+// An empty value counts as absent.
+std::string read(const StringKey& key)
+{
+    std::vector<char> buffer(static_cast<std::size_t>(key.size), '\0');
+    kxGetUPStr(appName(), key.name, buffer.data(), key.size);
+    buffer.back() = '\0';
+    return buffer.front() ? buffer.data() : key.byDefault;
+}
+
+}  // namespace
+
+int startupHook()
+{
+    return read(kStartupHook);
+}
+
+int logMode()
+{
+    return read(kLogMode);
+}
+
+bool savesGeometry()
+{
+    return read(kSavesGeometry) != 0;
+}
+
+int dropDownHeight()
+{
+    return read(kDropDownHeight);
+}
+
+Geometry savedGeometry()
+{
+    return {read(kFrameX), read(kFrameY), read(kFrameWidth), read(kFrameHeight)};
+}
+
+void saveGeometry(const Geometry& geometry)
+{
+    write(kFrameX, geometry.x);
+    write(kFrameY, geometry.y);
+    write(kFrameWidth, geometry.width);
+    write(kFrameHeight, geometry.height);
+}
+
+std::string logFileName()
+{
+    return read(kLogFileName);
+}
+
+std::string statusLineFont()
+{
+    return read(kStatusLineFont);
+}
+
+std::string menuBarFont()
+{
+    return read(kMenuBarFont);
+}
+
+std::string outputFont()
+{
+    return read(kOutputFont);
+}
+
+int hoverDelay()
+{
+    return parseHoverDelay(read(kHoverDelay).c_str());
+}
+
+int parseHoverDelay(const char* text)
+{
+    // The decimal point is a point, whatever locale the host has chosen.
+    static const locale_t plain = newlocale(LC_NUMERIC_MASK, "C", nullptr);
+    char* end = nullptr;
+    const float milliseconds = strtof_l(text, &end, plain) * 1000.0F;
+    if (end == text || std::isnan(milliseconds)) return kDefaultHoverDelay;
+    if (milliseconds < 0.0F) return -1;
+    constexpr auto kLongest = static_cast<float>(std::numeric_limits<int>::max() / 2);
+    return static_cast<int>(std::fmin(milliseconds, kLongest));
+}
+
+}  // namespace kite::settings

@@ -1,0 +1,37 @@
+// settings.h: the user's settings, read from the profile at the time of asking.
+
+#pragma once
+
+#include <string>
+
+namespace kite::settings {
+
+// ---- integers -------------------------------------------------------------------------------
+
+int startupHook();       // "spsec": above 0, a start-up hook runs
+int logMode();           // "logfm": 0 or less no log, 1 a new log, else a continued one
+bool savesGeometry();    // "mwndp"
+int dropDownHeight();    // "ch_height": eighths
+
+struct Geometry {
+    int x, y, width, height;  // pixels; -1 stands for "not saved"
+};
+
+Geometry savedGeometry();  // "mwndx", "mwndy", "mwndw", "mwndh"
+void saveGeometry(const Geometry& geometry);
+
+// ---- strings --------------------------------------------------------------------------------
+
+std::string logFileName();       // "logfn"
+std::string statusLineFont();    // "fnamm"
+std::string menuBarFont();       // "fnamn"
+std::string outputFont();        // "fnamt"
+
+// "mouse_hover" in milliseconds; negative: tooltips and hover events are off.
+int hoverDelay();
+
+// What "mouse_hover" holds, seconds as a decimal number, in milliseconds. A text that is no number
+// gives the default of 2000.
+int parseHoverDelay(const char* text);
+
+}  // namespace kite::settings

@@ -1,0 +1,70 @@
+#include "frame/top_window.h"
+
+#include <kitegui.h>
+
+#include "frame/session.h"
+
+namespace kite {
+
+namespace {
+
+struct {
+    WidgetRef main;  // set when the frame is built, empty once it is closed
+    WidgetRef top;   // set by dialogs, boxes and the host
+    bool hasTop = false;  // false: the host or closing said that there is none
+} state;
+
+}  // namespace
+
+Widget mainWindow()
+{
+    return state.main.get();
+}
+
+void setMainWindow(Widget window)
+{
+    state.main.reset(window);
+}
+
+Widget topWindow()
+{
+    if (!state.hasTop) return nullptr;
+    // A top window that was destroyed behind our back must not leave the frame without events.
+    return state.top ? state.top.get() : mainWindow();
+}
+
+void setTopWindow(Widget window)
+{
+    state.top.reset(window);
+    state.hasTop = window != nullptr;
+}
+
+Widget boxParent()
+{
+    Widget const top = topWindow();
+    return top ? top : session::owner();
+}
+
+TopWindowScope::TopWindowScope(Widget window)
+    : previous_(topWindow()), hadPrevious_(static_cast<bool>(previous_))
+{
+    setTopWindow(window);
+}
+
+TopWindowScope::~TopWindowScope()
+{
+    // When the previous one was closed meanwhile, closing has chosen the top window already.
+    if (previous_ || !hadPrevious_) setTopWindow(previous_.get());
+}
+
+}  // namespace kite
+
+GuiWidget guiGetTopWnd(void)
+{
+    return kite::topWindow();
+}
+
+void guiSetTopWnd(GuiWidget widget)
+{
+    kite::setTopWindow(widget);
+}

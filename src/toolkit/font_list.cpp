@@ -1,0 +1,26 @@
+#include "toolkit/font_list.h"
+
+namespace kite {
+
+void FontList::load(Display* display, const char* fontName)
+{
+    if (list_) return;
+    font_ = XLoadQueryFont(display, fontName);
+    if (!font_) return;
+    display_ = display;
+    XmFontListEntry entry = XmFontListEntryCreate(const_cast<char*>(XmFONTLIST_DEFAULT_TAG),
+                                                  XmFONT_IS_FONT, font_);
+    list_ = XmFontListAppendEntry(nullptr, entry);
+    XmFontListEntryFree(&entry);
+}
+
+void FontList::release()
+{
+    if (!list_) return;
+    XmFontListFree(list_);
+    XFreeFont(display_, font_);
+    list_ = nullptr;
+    font_ = nullptr;
+}
+
+}  // namespace kite

@@ -1,0 +1,11 @@
+// insertion_cursor.h: a text widget shows its insertion cursor only while it has the keyboard focus.
+
+#pragma once
+
+#include <X11/Intrinsic.h>
+
+namespace kite {
+
+void showInsertionCursorWithFocus(Widget text);
+
+}  // namespace kite

@@ -1,0 +1,18 @@
+// nested_loop.h: processes events while a call waits for the user.
+
+#pragma once
+
+#include <X11/Intrinsic.h>
+
+namespace kite {
+
+// Processes events of all kinds, one at a time, as long as `pending()` says so. The widget only names
+// the application; it may be destroyed meanwhile.
+template <typename Pending>
+void processEventsWhile(Widget widget, Pending pending)
+{
+    XtAppContext application = XtWidgetToApplicationContext(widget);
+    while (pending()) XtAppProcessEvent(application, XtIMAll);
+}
+
+}  // namespace kite

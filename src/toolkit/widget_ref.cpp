@@ -1,0 +1,25 @@
+#include "toolkit/widget_ref.h"
+
+#include <X11/IntrinsicP.h>
+#include <X11/StringDefs.h>
+
+namespace kite {
+
+void WidgetRef::reset(Widget widget)
+{
+    if (widget_) XtRemoveCallback(widget_, XtNdestroyCallback, destroyed, this);
+    widget_ = widget;
+    if (widget_) XtAddCallback(widget_, XtNdestroyCallback, destroyed, this);
+}
+
+Widget WidgetRef::get() const
+{
+    return widget_ && !widget_->core.being_destroyed ? widget_ : nullptr;
+}
+
+void WidgetRef::destroyed(Widget, XtPointer self, XtPointer)
+{
+    static_cast<WidgetRef*>(self)->widget_ = nullptr;
+}
+
+}  // namespace kite

@@ -1,0 +1,34 @@
+// widget_ref.h: a reference to a widget that knows when the widget is gone.
+//
+// A handler may destroy anything while a call of ours waits in a nested event loop. Xt destroys in two
+// phases and may run the second one much later, so a reference is empty as soon as the destruction
+// has begun, and never touches the widget after it has ended.
+
+#pragma once
+
+#include <X11/Intrinsic.h>
+
+namespace kite {
+
+class WidgetRef {
+public:
+    WidgetRef() = default;
+    explicit WidgetRef(Widget widget) { reset(widget); }
+    ~WidgetRef() { reset(); }
+
+    WidgetRef(const WidgetRef&) = delete;
+    WidgetRef& operator=(const WidgetRef&) = delete;
+
+    void reset(Widget widget = nullptr);
+
+    // The widget, or null once its destruction has begun.
+    Widget get() const;
+    explicit operator bool() const { return get() != nullptr; }
+
+private:
+    static void destroyed(Widget widget, XtPointer self, XtPointer);
+
+    Widget widget_ = nullptr;
+};
+
+}  // namespace kite
