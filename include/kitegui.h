@@ -39,10 +39,6 @@
 #ifndef KITEGUI_H
 #define KITEGUI_H
 
-#ifdef __cplusplus
-#include <cstdio>
-#endif
-
 #if defined(__GNUC__)
 #define KITEGUI_API __attribute__((visibility("default")))
 #else
@@ -405,9 +401,9 @@ public:
     void stop();
 
 private:
-    std::FILE *stream = nullptr;  /* non-null once a log was started or written; open only inside a call */
+    int wasWritten = 0;         /* the latest start or write could open the file, and no stop came since */
     int endsWithBlankLine = 0;
-    char *path = nullptr;         /* owned copy */
+    char *path = nullptr;       /* owned copy */
 };
 #endif
 
