@@ -1,9 +1,11 @@
 #include "host_test.h"
 
 #include <algorithm>
+#include <csignal>
 #include <fstream>
 #include <grp.h>
 #include <sstream>
+#include <sys/prctl.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -118,6 +120,7 @@ pid_t startChild(const std::function<void()>& steps)
     std::fflush(nullptr);
     const pid_t child = fork();
     if (child != 0) return child;
+    prctl(PR_SET_PDEATHSIG, SIGKILL);  // a test that is killed leaves no process behind
     steps();
     std::fflush(nullptr);
     _exit(testing::Test::HasFailure() ? 1 : 0);
