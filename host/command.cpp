@@ -13,12 +13,12 @@ namespace {
 constexpr int kNotRun = -1;
 constexpr int kKilledBase = 128;  // a command ended by a signal reports as shells do: 128 + number
 
-// Signals whose treatment belongs to whoever started the host (nohup, a background job): the command
-// keeps it.
+// Signals whose treatment belongs to whoever started the host (nohup, a background job): the
+// command keeps it.
 constexpr int kStartersSignals[] = {SIGHUP, SIGINT, SIGQUIT};
 
-// Holds SIGCHLD back while a command runs: a host's handler that reaps every child would otherwise take
-// the status away.
+// Holds SIGCHLD back while a command runs: a host's handler that reaps every child would otherwise
+// take the status away.
 class ChildSignalHeld {
 public:
     ChildSignalHeld()
@@ -72,7 +72,8 @@ private:
     posix_spawnattr_t attributes;
 };
 
-// Starts the shell on the line; false when it cannot be, for instance for a line beyond the system's limit.
+// Starts the shell on the line; false when it cannot be, for instance for a line beyond the
+// system's limit.
 bool startShell(const char* line, pid_t& child)
 {
     char shell[] = "sh";

@@ -26,7 +26,8 @@ std::string_view trimmed(std::string_view text)
 
 bool isComment(std::string_view trimmedLine)
 {
-    return !trimmedLine.empty() && kCommentStarts.find(trimmedLine.front()) != std::string_view::npos;
+    return !trimmedLine.empty() &&
+           kCommentStarts.find(trimmedLine.front()) != std::string_view::npos;
 }
 
 // The text behind the "]" of a heading.
@@ -53,8 +54,8 @@ bool isIniLine(std::string_view line)
     return line.empty() || isComment(line) || isHeading(line) || isAssignment(line);
 }
 
-// The comment that a line consists of or, for a heading, ends with; empty when it has none. Values have no
-// comments behind them: a print command may well hold a ';'.
+// The comment that a line consists of or, for a heading, ends with; empty when it has none. Values
+// have no comments behind them: a print command may well hold a ';'.
 std::string_view commentOf(std::string_view line)
 {
     if (isComment(line)) return line;

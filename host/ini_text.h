@@ -7,12 +7,12 @@
 
 namespace kitehost {
 
-// Is all of it blank lines, comments, "[section]" and "key = value"? Anything else would be dropped when
-// the profile is written again, so a text with it counts as damaged.
+// Is all of it blank lines, comments, "[section]" and "key = value"? Anything else would be dropped
+// when the profile is written again, so a text with it counts as damaged.
 bool isIniText(std::string_view text);
 
-// Can the name be written so that exactly this name is read again? What cannot is refused: it would read
-// as another section or key.
+// Can the name be written so that exactly this name is read again? What cannot is refused: it would
+// read as another section or key.
 bool isSectionName(std::string_view name);
 bool isKeyName(std::string_view name);
 

@@ -15,9 +15,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Takes the last name off a directory, as the system does for "..": the parent of a symbolic link is the
-// parent of what it points at, not the directory that the link stands in. What does not exist has no
-// links to follow.
+// Takes the last name off a directory, as the system does for "..": the parent of a symbolic link
+// is the parent of what it points at, not the directory that the link stands in. What does not
+// exist has no links to follow.
 void goUp(std::string& directory)
 {
     std::error_code error;
@@ -33,7 +33,8 @@ bool namesDirectory(std::string_view lastName)
     return lastName.empty() || lastName == "." || lastName == "..";
 }
 
-// An absolute path without "", "." and ".." in it. Links stay as the user named them, except before "..".
+// An absolute path without "", "." and ".." in it. Links stay as the user named them, except before
+// "..".
 std::string normalised(std::string_view path)
 {
     std::string result;  // without the '/' at its end
@@ -79,7 +80,8 @@ std::string applicationDirectory()
 KITEGUI_API const char* kxAppDir(void)
 {
     return kitehost::guarded("./", [] {
-        static const std::string directory = applicationDirectory();  // once: the pointer stays good
+        static const std::string directory =
+            applicationDirectory();  // once: the pointer stays good
         return directory.c_str();
     });
 }

@@ -6,16 +6,16 @@
 #include <new>
 #include <string_view>
 
-#define SI_NO_CONVERSION   // bytes as they are, in whatever encoding the fonts have
+#define SI_NO_CONVERSION  // bytes as they are, in whatever encoding the fonts have
 #define SI_IMPLEMENTATION
 #include <SimpleIni.h>
 
 namespace kitehost {
 namespace {
 
-constexpr bool kUtf8 = false;      // the texts are in the encoding of the fonts, 8-bit by default
-constexpr bool kMultiKey = true;   // a user's second line with the same key is not thrown away
-constexpr bool kMultiLine = false; // "<<<" is a value like any other and swallows no lines
+constexpr bool kUtf8 = false;       // the texts are in the encoding of the fonts, 8-bit by default
+constexpr bool kMultiKey = true;    // a user's second line with the same key is not thrown away
+constexpr bool kMultiLine = false;  // "<<<" is a value like any other and swallows no lines
 
 void check(SI_Error error)
 {
@@ -81,8 +81,8 @@ void Profile::set(const char* section, const char* key, int value)
     check(ini->table.SetLongValue(section, key, value, nullptr, /*hex=*/false, /*replace=*/true));
 }
 
-// SimpleIni keeps comments in front of the keys and sections they stand at. Those behind the last key, and
-// those at a heading that repeats an earlier one, it drops: they follow at the end.
+// SimpleIni keeps comments in front of the keys and sections they stand at. Those behind the last
+// key, and those at a heading that repeats an earlier one, it drops: they follow at the end.
 std::string Profile::text() const
 {
     std::string result;

@@ -55,8 +55,8 @@ bool writeAll(const FileDescriptor& file, std::string_view text)
 
 bool takeOver(const FileDescriptor& file, const struct stat& old)
 {
-    // First the owner, since a change of it may clear mode bits. It differs when a host runs as root on a
-    // user's profile; who may not give files away becomes the owner.
+    // First the owner, since a change of it may clear mode bits. It differs when a host runs as
+    // root on a user's profile; who may not give files away becomes the owner.
     if ((old.st_uid != geteuid() || old.st_gid != getegid()) &&
         fchown(file.get(), old.st_uid, old.st_gid) != 0 && errno != EPERM)
         return false;
@@ -68,14 +68,14 @@ bool takeOver(const FileDescriptor& file, const struct stat& old)
 bool writeNewFile(const std::string& path, const std::string& text, const struct stat* old)
 {
     unlink(path.c_str());
-    const FileDescriptor file{uninterrupted([&] {
-        return open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, kNewFileMode);
-    })};
+    const FileDescriptor file{uninterrupted(
+        [&] { return open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, kNewFileMode); })};
     return file.isOpen() && (!old || takeOver(file, *old)) && writeAll(file, text) &&
            uninterrupted([&] { return fsync(file.get()); }) == 0;
 }
 
-// Renames the profile to a name that no file has. The lock is held, so no other host takes that name.
+// Renames the profile to a name that no file has. The lock is held, so no other host takes that
+// name.
 bool keepBeside(const std::string& path)
 {
     struct stat existing {};
@@ -118,12 +118,11 @@ bool mayBeProfile(const std::string& path)
 
 ProfileLock::ProfileLock(const std::string& path)
     : file{uninterrupted([&] {
-          return open((path + ".lock").c_str(), O_RDONLY | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK,
-                      kNewFileMode);
+          return open((path + ".lock").c_str(),
+                      O_RDONLY | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, kNewFileMode);
       })},
       held{file.isOpen() && uninterrupted([&] { return flock(file.get(), LOCK_EX); }) == 0}
-{
-}
+{}
 
 bool ProfileLock::isHeld() const
 {

@@ -25,7 +25,8 @@ struct StoredProfile {
 
 StoredProfile readProfile(const std::string& path);
 
-// Is there a regular file, or nothing yet? Beside anything else, such as a device, nothing is created.
+// Is there a regular file, or nothing yet? Beside anything else, such as a device, nothing is
+// created.
 bool mayBeProfile(const std::string& path);
 
 // The right to change the profile. It is held on a file beside it, which stays when the profile is
@@ -41,10 +42,12 @@ private:
     bool held;
 };
 
-// Puts a text in the place of the profile; a reader finds either the old or the new one, whole. A file that
-// exists keeps its mode and owner. With `keepOld` it is first renamed to a free name beside it instead.
+// Puts a text in the place of the profile; a reader finds either the old or the new one, whole. A
+// file that exists keeps its mode and owner. With `keepOld` it is first renamed to a free name
+// beside it instead.
 //
-// Returns false, with the profile as it was, when that fails or the user made the profile read-only.
+// Returns false, with the profile as it was, when that fails or the user made the profile
+// read-only.
 bool replaceProfile(const std::string& path, const std::string& text, bool keepOld);
 
 }  // namespace kitehost

@@ -13,8 +13,8 @@ constexpr const char* kProfileName = "/kitegui/profile.ini";
 constexpr int kMaxLinks = 40;  // as many as the system follows
 constexpr mode_t kDirectoryMode = 0700;
 
-// The directory a variable names. A relative one counts as none: the profile would wander with the current
-// directory.
+// The directory a variable names. A relative one counts as none: the profile would wander with the
+// current directory.
 std::string directoryFrom(const char* variable)
 {
     const char* const value = std::getenv(variable);
@@ -64,7 +64,8 @@ std::string directoryOf(const std::string& path)
 // What cannot be created shows when a file is opened there.
 void createDirectoriesFor(const std::string& path)
 {
-    for (std::size_t end = path.find('/', 1); end != std::string::npos; end = path.find('/', end + 1))
+    for (std::size_t end = path.find('/', 1); end != std::string::npos;
+         end = path.find('/', end + 1))
         mkdir(path.substr(0, end).c_str(), kDirectoryMode);
 }
 

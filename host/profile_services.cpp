@@ -15,8 +15,8 @@ namespace {
 
 using namespace kitehost;
 
-// The profile as it is on disk now. The file is read every time, which is cheap and never out of date;
-// its text is taken apart again only when it is another one.
+// The profile as it is on disk now. The file is read every time, which is cheap and never out of
+// date; its text is taken apart again only when it is another one.
 const Profile& currentProfile()
 {
     static Profile profile{""};
@@ -25,8 +25,8 @@ const Profile& currentProfile()
     return profile;
 }
 
-// Reads, changes and replaces the profile with no other host in between. What cannot be stored is not: there
-// is nobody to tell.
+// Reads, changes and replaces the profile with no other host in between. What cannot be stored is
+// not: there is nobody to tell.
 void store(const char* section, const char* key, int value)
 {
     const std::optional<std::string> path = behindLinks(profilePath());
@@ -41,7 +41,8 @@ void store(const char* section, const char* key, int value)
     profile.set(section, key, value);
     const std::string text = profile.text();
     if (text.size() > kMaxProfileSize) return;  // it could not be read again
-    replaceProfile(*path, text, stored.state == StoredProfile::State::Unreadable || profile.isDamaged());
+    replaceProfile(*path, text,
+                   stored.state == StoredProfile::State::Unreadable || profile.isDamaged());
 }
 
 }  // namespace

@@ -21,7 +21,8 @@ protected:
     // The masks of signals that the shell itself was started with: one line of its status.
     std::string shellStatus(const std::string& field) const
     {
-        EXPECT_EQ(run("grep ^" + field + ": /proc/$$/status | cut -f2 > '" + in("status") + "'"), 0);
+        EXPECT_EQ(run("grep ^" + field + ": /proc/$$/status | cut -f2 > '" + in("status") + "'"),
+                  0);
         return readFile(in("status"));
     }
 };
@@ -87,7 +88,9 @@ TEST_F(Command, CallReturnsWhenTheCommandHasEnded)
     for (const auto& [first, second] : {std::pair{1, 1}, {0, 0}, {1, 0}, {INT_MIN, INT_MAX}}) {
         std::filesystem::remove(in("done"));
         // Many steps, the last of which is the one that shows.
-        EXPECT_EQ(kxExec(("i=0; while [ $i -lt 2000 ]; do i=$((i+1)); done; : > '" + in("done") + "'; exit 5").c_str(),
+        EXPECT_EQ(kxExec(("i=0; while [ $i -lt 2000 ]; do i=$((i+1)); done; : > '" + in("done") +
+                          "'; exit 5")
+                             .c_str(),
                          first, second),
                   5);
         EXPECT_TRUE(exists(in("done")));
@@ -107,7 +110,8 @@ TEST_F(Command, CommandBlocksAndIgnoresNoSignals)
         sigset_t all;
         sigfillset(&all);
         sigprocmask(SIG_SETMASK, &all, nullptr);
-        for (const int signal : {SIGPIPE, SIGTERM, SIGUSR1, SIGCHLD, SIGXFSZ}) std::signal(signal, SIG_IGN);
+        for (const int signal : {SIGPIPE, SIGTERM, SIGUSR1, SIGCHLD, SIGXFSZ})
+            std::signal(signal, SIG_IGN);
         EXPECT_EQ(std::stoull(shellStatus("SigBlk"), nullptr, 16), 0u);
         const std::string ignored = shellStatus("SigIgn");
         for (const int signal : {SIGPIPE, SIGTERM, SIGUSR1, SIGCHLD, SIGXFSZ})
@@ -123,7 +127,8 @@ TEST_F(Command, CommandKeepsIgnoringWhatTheUserHadIgnored)
     EXPECT_TRUE(heldInChild([this] {
         for (const int signal : {SIGHUP, SIGINT, SIGQUIT}) std::signal(signal, SIG_IGN);
         const std::string ignored = shellStatus("SigIgn");
-        for (const int signal : {SIGHUP, SIGINT, SIGQUIT}) EXPECT_TRUE(contains(ignored, signal)) << signal;
+        for (const int signal : {SIGHUP, SIGINT, SIGQUIT})
+            EXPECT_TRUE(contains(ignored, signal)) << signal;
     }));
 }
 

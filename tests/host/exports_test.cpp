@@ -25,9 +25,11 @@ std::vector<std::string> linesOf(const std::string& command)
 
 TEST(Exports, AreTheSevenServicesAndNothingElse)
 {
-    const std::string list = "nm -D --defined-only '" KITEHOST_LIBRARY "' | cut -d' ' -f3 | LC_ALL=C sort";
-    EXPECT_EQ(linesOf(list), (std::vector<std::string>{"kxAppDir", "kxExec", "kxFullName", "kxGetUPInt", "kxGetUPStr",
-                                                       "kxLocNamePos", "kxSetUPInt"}));
+    const std::string list =
+        "nm -D --defined-only '" KITEHOST_LIBRARY "' | cut -d' ' -f3 | LC_ALL=C sort";
+    EXPECT_EQ(linesOf(list),
+              (std::vector<std::string>{"kxAppDir", "kxExec", "kxFullName", "kxGetUPInt",
+                                        "kxGetUPStr", "kxLocNamePos", "kxSetUPInt"}));
 }
 
 TEST(Exports, NameOfTheLibraryHasItsVersion)

@@ -1,5 +1,5 @@
-// host_test.h: what the tests of the host services share: a directory of their own, a profile in it, and
-// child processes.
+// host_test.h: what the tests of the host services share: a directory of their own, a profile in
+// it, and child processes.
 
 #pragma once
 

@@ -24,11 +24,25 @@ protected:
 
 TEST_F(Paths, AbsoluteNamesAreNormalised)
 {
-    const std::pair<const char*, const char*> cases[] = {
-        {"/", "/"}, {"//", "/"}, {"///a", "/a"}, {"/a/b", "/a/b"}, {"/a/b/", "/a/b/"}, {"/a//b///", "/a/b/"},
-        {"/./a/./b", "/a/b"}, {"/a/.", "/a/"}, {"/a/..", "/"}, {"/a/b/..", "/a/"}, {"/a/../b", "/b"},
-        {"/..", "/"}, {"/../../a", "/a"}, {"/a/.b", "/a/.b"}, {"/a/..b", "/a/..b"}, {"/a/...", "/a/..."},
-        {"/a/b/../../c/", "/c/"}, {"/a b/\xe4", "/a b/\xe4"}, {"/.", "/"}};
+    const std::pair<const char*, const char*> cases[] = {{"/", "/"},
+                                                         {"//", "/"},
+                                                         {"///a", "/a"},
+                                                         {"/a/b", "/a/b"},
+                                                         {"/a/b/", "/a/b/"},
+                                                         {"/a//b///", "/a/b/"},
+                                                         {"/./a/./b", "/a/b"},
+                                                         {"/a/.", "/a/"},
+                                                         {"/a/..", "/"},
+                                                         {"/a/b/..", "/a/"},
+                                                         {"/a/../b", "/b"},
+                                                         {"/..", "/"},
+                                                         {"/../../a", "/a"},
+                                                         {"/a/.b", "/a/.b"},
+                                                         {"/a/..b", "/a/..b"},
+                                                         {"/a/...", "/a/..."},
+                                                         {"/a/b/../../c/", "/c/"},
+                                                         {"/a b/\xe4", "/a b/\xe4"},
+                                                         {"/.", "/"}};
     for (const auto& [path, full] : cases) EXPECT_STREQ(kxFullName(path), full) << path;
 }
 
@@ -116,9 +130,9 @@ TEST_F(Paths, ResultMayBeTheNextArgument)
 
 TEST_F(Paths, FileNameBeginsBehindTheLastSeparator)
 {
-    const std::pair<const char*, int> cases[] = {{"", 0},     {"a", 0},    {"/", 1},     {"/a", 1},
-                                                 {"a/", 2},   {"a/b", 2},  {"/a/b.c", 3}, {"/a/b/", 5},
-                                                 {"a\\b", 0}, {"//", 2}};
+    const std::pair<const char*, int> cases[] = {
+        {"", 0},    {"a", 0},      {"/", 1},     {"/a", 1},   {"a/", 2},
+        {"a/b", 2}, {"/a/b.c", 3}, {"/a/b/", 5}, {"a\\b", 0}, {"//", 2}};
     for (const auto& [path, position] : cases) EXPECT_EQ(kxLocNamePos(path), position) << path;
     EXPECT_EQ(kxLocNamePos(nullptr), 0);
     EXPECT_EQ(kxLocNamePos((std::string(100000, 'a') + "/b").c_str()), 100001);
@@ -144,8 +158,11 @@ TEST_F(Paths, ApplicationDirectoryIsThatOfTheProgram)
 
 TEST_F(Paths, ApplicationDirectoryAsTheUserChooses)
 {
-    const std::pair<std::string, std::string> cases[] = {
-        {"/", "/"}, {"/opt/my host", "/opt/my host/"}, {"/opt/x/", "/opt/x/"}, {"sub", in("sub/")}, {".", directory + "/"}};
+    const std::pair<std::string, std::string> cases[] = {{"/", "/"},
+                                                         {"/opt/my host", "/opt/my host/"},
+                                                         {"/opt/x/", "/opt/x/"},
+                                                         {"sub", in("sub/")},
+                                                         {".", directory + "/"}};
     for (const auto& [chosen, expected] : cases)
         EXPECT_TRUE(heldInChild([&, &directoryChosen = chosen, &result = expected] {
             ASSERT_EQ(chdir(directory.c_str()), 0);

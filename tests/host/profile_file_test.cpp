@@ -1,4 +1,5 @@
-// profile_file_test.cpp: the file that a write makes: its mode, links, and what remains of a failed write.
+// profile_file_test.cpp: the file that a write makes: its mode, links, and what remains of a failed
+// write.
 
 #include "host_test.h"
 
@@ -134,7 +135,8 @@ TEST_F(ProfileFile, LinkedProfileIsReplacedBehindTheLinks)
     kxSetUPInt("a", "x", 2);
     EXPECT_EQ(readFile(in("real/p")), "[a]\nx = 2\n");
     EXPECT_FALSE(fs::is_symlink(in("real/p")));
-    for (const char* link : {"profile.ini", "two", "real/one"}) EXPECT_TRUE(fs::is_symlink(in(link))) << link;
+    for (const char* link : {"profile.ini", "two", "real/one"})
+        EXPECT_TRUE(fs::is_symlink(in(link))) << link;
     EXPECT_EQ(kxGetUPInt("a", "x", 0), 2);
 }
 
@@ -158,12 +160,14 @@ TEST_F(ProfileFile, LeftoverOfAKilledHostIsNoHindrance)
     kxSetUPInt("a", "x", 2);
     EXPECT_EQ(profileText(), "[a]\nx = 2\n");
     EXPECT_EQ(readFile(in("victim")), "untouched");
-    EXPECT_EQ(namesIn(directory), (std::vector<std::string>{"profile.ini", "profile.ini.lock", "victim"}));
+    EXPECT_EQ(namesIn(directory),
+              (std::vector<std::string>{"profile.ini", "profile.ini.lock", "victim"}));
 }
 
 TEST_F(ProfileFile, FullDiskLeavesTheOldProfile)
 {
-    for (const std::string& text : {std::string{"[a]\nx=1\nlong="} + std::string(8000, 'v') + "\n", std::string{"damaged"}}) {
+    for (const std::string& text :
+         {std::string{"[a]\nx=1\nlong="} + std::string(8000, 'v') + "\n", std::string{"damaged"}}) {
         putProfile(text);
         EXPECT_TRUE(heldInChild([&] {
             std::signal(SIGXFSZ, SIG_IGN);
@@ -172,7 +176,8 @@ TEST_F(ProfileFile, FullDiskLeavesTheOldProfile)
             kxSetUPInt("a", "x", 2);
         }));
         EXPECT_EQ(profileText(), text);
-        EXPECT_EQ(namesIn(directory), (std::vector<std::string>{"profile.ini", "profile.ini.lock"}));
+        EXPECT_EQ(namesIn(directory),
+                  (std::vector<std::string>{"profile.ini", "profile.ini.lock"}));
     }
 }
 
@@ -180,7 +185,8 @@ TEST_F(ProfileFile, WithoutFreeDescriptorsNothingHappens)
 {
     putProfile("[a]\nx=1\n");
     EXPECT_TRUE(heldInChild([&] {
-        // One descriptor left: enough for the lock, but the profile cannot be read. It is not damaged!
+        // One descriptor left: enough for the lock, but the profile cannot be read. It is not
+        // damaged!
         const int last = open("/dev/null", O_RDONLY | O_CLOEXEC);
         close(last);
         for (const int left : {1, 0}) {

@@ -12,7 +12,8 @@ using ProfileText = HostTest;
 
 TEST_F(ProfileText, CommentsAndOrderStay)
 {
-    putProfile("# my settings\n\n[zoo]\n; the width\nw = 1\nb = 2\n\n# about apes\n[apes]\nx = 3\n");
+    putProfile(
+        "# my settings\n\n[zoo]\n; the width\nw = 1\nb = 2\n\n# about apes\n[apes]\nx = 3\n");
     kxSetUPInt("zoo", "w", 10);
     kxSetUPInt("apes", "y", 4);
     kxSetUPInt("bears", "z", 5);
@@ -25,8 +26,10 @@ TEST_F(ProfileText, CommentsThatBelongToNoKeyAreKeptOnce)
     putProfile("[a]\nx=1\n; twice\n[b] ; behind b\ny=1\n# again a\n[a]\nz=1\n; twice\n\n# the end");
     for (int i = 2; i < 5; ++i) {
         kxSetUPInt("a", "x", i);
-        EXPECT_EQ(profileText(), "[a]\nx = " + std::to_string(i) +
-                                     "\nz = 1\n\n\n; twice\n[b]\ny = 1\n\n; behind b\n# again a\n; twice\n# the end\n");
+        EXPECT_EQ(
+            profileText(),
+            "[a]\nx = " + std::to_string(i) +
+                "\nz = 1\n\n\n; twice\n[b]\ny = 1\n\n; behind b\n# again a\n; twice\n# the end\n");
     }
 }
 
@@ -116,20 +119,22 @@ TEST_F(ProfileText, ManyKeysSurvive)
 {
     constexpr int kKeys = 5000;
     std::string text = "[a]\n";
-    for (int i = 0; i < kKeys; ++i) text += "k" + std::to_string(i) + "=" + std::to_string(i) + "\n";
+    for (int i = 0; i < kKeys; ++i)
+        text += "k" + std::to_string(i) + "=" + std::to_string(i) + "\n";
     putProfile(text);
     kxSetUPInt("a", "k7", -7);
     for (int i = 0; i < kKeys; ++i)
         ASSERT_EQ(kxGetUPInt("a", ("k" + std::to_string(i)).c_str(), -1), i == 7 ? -7 : i);
 }
 
-// Sound texts of random lines: a write changes its own key and no other and loses no comment, and further
-// writes do not make the file grow.
+// Sound texts of random lines: a write changes its own key and no other and loses no comment, and
+// further writes do not make the file grow.
 TEST_F(ProfileText, RandomTextsSurviveWriting)
 {
     constexpr int kTexts = 150;
-    const std::vector<std::string> lines = {"", "  ", "; c1", "# c2", "  ;c3 \t", "[a]", "[b]", " [ a ] # c4", "[]", "x=1",
-                                            "x = 2", "y=<<<END", "\tz = \"q\" ;r ", "=x"};
+    const std::vector<std::string> lines = {
+        "",   "  ",  "; c1",  "# c2",     "  ;c3 \t",        "[a]", "[b]", " [ a ] # c4",
+        "[]", "x=1", "x = 2", "y=<<<END", "\tz = \"q\" ;r ", "=x"};
     std::mt19937 random{42};
     for (int i = 0; i < kTexts; ++i) {
         std::string text;
@@ -148,11 +153,13 @@ TEST_F(ProfileText, RandomTextsSurviveWriting)
         EXPECT_EQ(kxGetUPInt("b", "own", 0), 1) << text;
         const auto count = [](const std::string& whole, const std::string& part) {
             int found = 0;
-            for (auto at = whole.find(part); at != whole.npos; at = whole.find(part, at + 1)) ++found;
+            for (auto at = whole.find(part); at != whole.npos; at = whole.find(part, at + 1))
+                ++found;
             return found;
         };
         for (const char* comment : {"; c1", "# c2", ";c3", "# c4"})
-            EXPECT_EQ(count(profileText(), comment), count(text, comment)) << text << "---\n" << profileText();
+            EXPECT_EQ(count(profileText(), comment), count(text, comment)) << text << "---\n"
+                                                                           << profileText();
         for (const int value : {2, 3}) kxSetUPInt("b", "own", value);
         const std::string settled = profileText();
         for (const int value : {4, 3}) kxSetUPInt("b", "own", value);

@@ -66,16 +66,17 @@ TEST_F(ProfileValues, WholeDecimalIntegersCount)
 
 TEST_F(ProfileValues, AnythingElseThanAnIntegerGivesTheDefault)
 {
-    for (const char* text : {"", "x", "12x", "x12", "1 2", "1.5", "0x10", "1e3", "--1", "+-1", "++1", "+", "-",
-                             "\"1\"", "12 ; note", "2147483648", "-2147483649", "99999999999999999999999999"})
+    for (const char* text :
+         {"", "x", "12x", "x12", "1 2", "1.5", "0x10", "1e3", "--1", "+-1", "++1", "+", "-",
+          "\"1\"", "12 ; note", "2147483648", "-2147483649", "99999999999999999999999999"})
         EXPECT_EQ(intOf(text), kDefault) << text;
     EXPECT_EQ(intOf(std::string(100000, '9')), kDefault);
 }
 
 TEST_F(ProfileValues, StringIsCopiedAsItStands)
 {
-    for (const std::string text : {"lp -c \"%file\"", "\"a\"", "'a'", "a=b", "a;b # c", "[x]", "]", "<<<END",
-                                   "caf\xe9 \xff\x80", "a\tb", "%s%n", "\\n", "c:\\x"}) {
+    for (const std::string text : {"lp -c \"%file\"", "\"a\"", "'a'", "a=b", "a;b # c", "[x]", "]",
+                                   "<<<END", "caf\xe9 \xff\x80", "a\tb", "%s%n", "\\n", "c:\\x"}) {
         putProfile("[s]\nk = " + text + " \nother=1\n");
         EXPECT_EQ(getStr("s", "k"), text);
         kxSetUPInt("s", "new", 3);
@@ -152,10 +153,12 @@ TEST_F(ProfileValues, OfRepeatedKeysTheLastCountsAndIsReplaced)
 
 TEST_F(ProfileValues, OddNamesAreStored)
 {
-    for (const char* section : {"", "a b", "[x", "[[", "a=b", ";x", "#", "\"q\"", "'", "\xe4\xff\x80", "a\tb", "=",
-                                "\\", "\xef\xbb\xbfx", "<<<", "first", "%d"})
+    for (const char* section :
+         {"", "a b", "[x", "[[", "a=b", ";x", "#", "\"q\"", "'", "\xe4\xff\x80", "a\tb", "=", "\\",
+          "\xef\xbb\xbfx", "<<<", "first", "%d"})
         EXPECT_TRUE(isStored(section, "k")) << section;
-    for (const char* key : {"a b", "a[", "]", "a]b", "a;b", "a#", "\"q\"", "\xe4\xff\x80", "a\tb", "<<<x", "%d"}) {
+    for (const char* key :
+         {"a b", "a[", "]", "a]b", "a;b", "a#", "\"q\"", "\xe4\xff\x80", "a\tb", "<<<x", "%d"}) {
         EXPECT_TRUE(isStored("s", key)) << key;
         EXPECT_TRUE(isStored("", key)) << key;
     }
@@ -164,19 +167,19 @@ TEST_F(ProfileValues, OddNamesAreStored)
 
 TEST_F(ProfileValues, NamesThatWouldReadAsOthersAreRefused)
 {
-    for (const char* section : {" s", "s ", "\ts", "s\t", " ", "a]", "]", "a\nb", "a\n[first]\na=9", "\n", "a\rb",
-                                "a\x01", "\x7f", "\x1b[0m"})
+    for (const char* section : {" s", "s ", "\ts", "s\t", " ", "a]", "]", "a\nb", "a\n[first]\na=9",
+                                "\n", "a\rb", "a\x01", "\x7f", "\x1b[0m"})
         EXPECT_FALSE(isStored(section, "k")) << section;
-    for (const char* key : {"", " k", "k ", "\tk", "k\t", "a=b", "=", "=k", "[k", "[k]", ";k", "#k", "k\n", "a\n[first]\na",
-                            "a\rb", "\x02", "\xef\xbb\xbfk"}) {
+    for (const char* key : {"", " k", "k ", "\tk", "k\t", "a=b", "=", "=k", "[k", "[k]", ";k", "#k",
+                            "k\n", "a\n[first]\na", "a\rb", "\x02", "\xef\xbb\xbfk"}) {
         EXPECT_FALSE(isStored("s", key)) << key;
         EXPECT_FALSE(isStored("", key)) << key;
         EXPECT_EQ(profileText(), "top=0\n[first]\na=1\n[last]\nz=2\n") << key;
     }
 }
 
-// Names of random bytes, most of them those with a meaning in the file: each is stored or refused, and no
-// other setting is touched by it.
+// Names of random bytes, most of them those with a meaning in the file: each is stored or refused,
+// and no other setting is touched by it.
 TEST_F(ProfileValues, RandomNamesNeverDamageOtherSettings)
 {
     constexpr int kNames = 400;

@@ -31,7 +31,8 @@ TEST_F(ProfileWriters, NoneLosesAKeyOfAnother)
     for (const pid_t writer : writers) EXPECT_EQ(endOf(writer), 0);
     for (int writer = 0; writer < kWriters; ++writer)
         for (int number = 0; number < kKeys; ++number)
-            EXPECT_EQ(kxGetUPInt(number % 2 ? "odd" : "even", keyOf(writer, number).c_str(), -1), number);
+            EXPECT_EQ(kxGetUPInt(number % 2 ? "odd" : "even", keyOf(writer, number).c_str(), -1),
+                      number);
     EXPECT_EQ(namesIn(directory), (std::vector<std::string>{"profile.ini", "profile.ini.lock"}));
 }
 
@@ -40,9 +41,11 @@ TEST_F(ProfileWriters, OneDamagedProfileIsKeptOnce)
     putProfile("damaged");
     std::vector<pid_t> writers;
     for (int writer = 0; writer < 6; ++writer)
-        writers.push_back(startChild([writer] { kxSetUPInt("a", keyOf(writer, 0).c_str(), writer); }));
+        writers.push_back(
+            startChild([writer] { kxSetUPInt("a", keyOf(writer, 0).c_str(), writer); }));
     for (const pid_t writer : writers) EXPECT_EQ(endOf(writer), 0);
-    for (int writer = 0; writer < 6; ++writer) EXPECT_EQ(kxGetUPInt("a", keyOf(writer, 0).c_str(), -1), writer);
+    for (int writer = 0; writer < 6; ++writer)
+        EXPECT_EQ(kxGetUPInt("a", keyOf(writer, 0).c_str(), -1), writer);
     EXPECT_EQ(namesIn(directory),
               (std::vector<std::string>{"profile.ini", "profile.ini.damaged", "profile.ini.lock"}));
 }
@@ -71,8 +74,8 @@ TEST_F(ProfileWriters, WriterWaitsForTheLock)
     EXPECT_EQ(profileText(), "[a]\nx = 2\ny = 5\n");  // read after the lock was had
 }
 
-// A writer is killed at any moment, again and again, while this process reads: each reading finds a whole
-// profile, and the next writer is not held up by what the killed one left.
+// A writer is killed at any moment, again and again, while this process reads: each reading finds a
+// whole profile, and the next writer is not held up by what the killed one left.
 TEST_F(ProfileWriters, KilledWriterLeavesAWholeProfile)
 {
     constexpr int kKills = 40;
