@@ -1,6 +1,7 @@
 // drag_source: another client, which offers a file name for dragging: press button 2 in its window and
 // drag. Arguments: the name, and optionally "text" to offer plain text as well.
 
+#include <Xm/Display.h>
 #include <Xm/DragDrop.h>
 #include <Xm/Label.h>
 #include <Xm/Xm.h>
@@ -59,6 +60,9 @@ int main(int argc, char** argv)
     XtAppAddActions(application, actions, 1);
     XtVaCreateManagedWidget("drag me", xmLabelWidgetClass, shell, XmNtranslations,
                             XtParseTranslationTable("<Btn2Down>: beginDrag()"), nullptr);
+    // The preregistered protocol grabs the server, and no other client could move the pointer then.
+    XtVaSetValues(XmGetXmDisplay(XtDisplay(shell)), XmNdragInitiatorProtocolStyle, XmDRAG_DYNAMIC,
+                  nullptr);
     XtRealizeWidget(shell);
     XtAppMainLoop(application);
 }
