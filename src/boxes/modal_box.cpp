@@ -16,29 +16,23 @@ namespace kite {
 
 namespace {
 
-Widget create(const ModalBox::Look& look, const char* text, const char* initialText)
+Widget create(const ModalBox::Look& look, const char* text)
 {
     Widget const parent = boxParent();
     if (!parent) return nullptr;
     const CompoundString title{(std::string{appTitle()} + look.titleSuffix).c_str()};
     const CompoundString message{text};
-    const CompoundString initial{initialText};
-    Arg arguments[5];
-    Cardinal count = 0;
-    XtSetArg(arguments[count], XmNdialogStyle, XmDIALOG_FULL_APPLICATION_MODAL), ++count;
-    XtSetArg(arguments[count], XmNnoResize, True), ++count;
-    XtSetArg(arguments[count], XmNdialogTitle, title.get()), ++count;
-    XtSetArg(arguments[count], look.textResource, message.get()), ++count;
-    if (initialText) XtSetArg(arguments[count], XmNtextString, initial.get()), ++count;
-    return look.create(parent, const_cast<char*>(look.widgetName), arguments, count);
+    Arg arguments[4];
+    XtSetArg(arguments[0], XmNdialogStyle, XmDIALOG_FULL_APPLICATION_MODAL);
+    XtSetArg(arguments[1], XmNnoResize, True);
+    XtSetArg(arguments[2], XmNdialogTitle, title.get());
+    XtSetArg(arguments[3], look.textResource, message.get());
+    return look.create(parent, const_cast<char*>(look.widgetName), arguments, 4);
 }
 
 }  // namespace
 
-ModalBox::ModalBox(const Look& look, const char* text, const char* initialText)
-    : box_(create(look, text, initialText))
-{
-}
+ModalBox::ModalBox(const Look& look, const char* text) : box_(create(look, text)) {}
 
 ModalBox::~ModalBox()
 {

@@ -30,8 +30,8 @@ public:
         char* textResource;
     };
 
-    // Makes the box, not shown yet. initialText may be null: only a prompt has a text field.
-    ModalBox(const Look& look, const char* text, const char* initialText = nullptr);
+    // Makes the box, not shown yet.
+    ModalBox(const Look& look, const char* text);
     ~ModalBox();
 
     ModalBox(const ModalBox&) = delete;

@@ -4,6 +4,9 @@
 #include <Xm/TextF.h>
 #include <kitegui.h>
 
+#include <cstring>
+#include <string>
+
 #include "boxes/misuse.h"
 #include "boxes/modal_box.h"
 #include "toolkit/colours.h"
@@ -19,8 +22,10 @@ namespace {
 const ModalBox::Look kPromptLook{XmCreatePromptDialog, "v_promptbox", "",
                                      XmNselectionLabelString};
 
-void prepareField(Widget box, Widget field, int mostCharacters, bool isHidden)
+void prepareField(Widget box, Widget field, std::string text, int mostCharacters, bool isHidden)
 {
+    XmTextFieldSetString(field, text.data());
+    XmTextFieldSetInsertionPosition(field, XmTextFieldGetLastPosition(field));
     const Pixel background = whitePixel(field);
     XtVaSetValues(field, XmNmarginWidth, 3, XmNmarginHeight, 1, XmNmaxLength, mostCharacters,
                   XmNshadowThickness, 2, XmNhighlightThickness, 0, XmNbackground, background,
@@ -31,7 +36,8 @@ void prepareField(Widget box, Widget field, int mostCharacters, bool isHidden)
 
 int ask(const char* prompt, char* buffer, int size, bool isHidden)
 {
-    ModalBox box{kPromptLook, prompt, buffer};
+    const std::string initial{buffer, strnlen(buffer, static_cast<std::size_t>(size) - 1)};
+    ModalBox box{kPromptLook, prompt};
     buffer[0] = '\0';
     if (!box.widget()) return GUI_FAILED;
 
@@ -40,7 +46,7 @@ int ask(const char* prompt, char* buffer, int size, bool isHidden)
     Widget const cancel = box.child(XmDIALOG_CANCEL_BUTTON);
     box.removeParts({XmDIALOG_SEPARATOR, XmDIALOG_HELP_BUTTON});
     ModalBox::useDialogFont({box.child(XmDIALOG_PROMPT_LABEL), field, ok, cancel});
-    prepareField(box.widget(), field, size - 1, isHidden);
+    prepareField(box.widget(), field, initial, size - 1, isHidden);
     box.answerOnPress(ok, 1);
     box.answerOnPress(cancel, 0);
     box.answerOnClose(0);

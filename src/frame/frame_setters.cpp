@@ -6,11 +6,13 @@
 #include <kitegui.h>
 
 #include <algorithm>
+#include <string>
 
 #include "frame/app_info.h"
 #include "frame/dispatcher.h"
 #include "frame/main_frame.h"
 #include "toolkit/compound_string.h"
+#include "toolkit/displayable_text.h"
 
 namespace kite::frame {
 
@@ -58,8 +60,10 @@ using namespace kite;
 
 void guiSetFrameTitle(const char* title)
 {
-    if (Widget const shell = frame::widgets().shell)
-        XtVaSetValues(shell, XmNtitle, frame::orElse(title, appTitle()), nullptr);
+    Widget const shell = frame::widgets().shell;
+    if (!shell) return;
+    const std::string text = displayableText(frame::orElse(title, appTitle()));
+    XtVaSetValues(shell, XmNtitle, text.c_str(), nullptr);
 }
 
 void guiSetStatusLine(const char* text)

@@ -1,9 +1,11 @@
 #include "toolkit/compound_string.h"
 
+#include "toolkit/displayable_text.h"
+
 namespace kite {
 
 CompoundString::CompoundString(const char* text)
-    : string_(XmStringCreateLtoR(const_cast<char*>(text ? text : ""),
+    : string_(XmStringCreateLtoR(displayableText(text).data(),
                                  const_cast<char*>(XmFONTLIST_DEFAULT_TAG)))
 {
 }
