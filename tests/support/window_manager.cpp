@@ -1,0 +1,227 @@
+#include <gtest/gtest.h>
+
+#include "window_manager.h"
+
+#include <X11/Xutil.h>
+
+#include <algorithm>
+
+#include "connection.h"
+#include "decoration.h"
+#include "pump.h"
+#include "robot.h"
+#include "toolkit.h"
+#include "widgets.h"
+#include "window_properties.h"
+
+namespace kite::testing::wm {
+
+namespace {
+
+bool isOurs(Client client)
+{
+    return toolkit::display() && XtWindowToWidget(toolkit::display(), client.window);
+}
+
+void awaitCloseRequest(Client client, int before)
+{
+    if (!isOurs(client)) return;
+    if (!pumpUntil([&] { return toolkit::received(ClientMessage) > before; }))
+        ADD_FAILURE() << "The close request has not reached the application.";
+}
+
+// A message to the root window, as pagers and taskbars send it.
+void askManager(Client client, const char* message, long first, long second = 0)
+{
+    XEvent event{};
+    event.xclient.type = ClientMessage;
+    event.xclient.window = client.window;
+    event.xclient.message_type = atom(message);
+    event.xclient.format = 32;
+    event.xclient.data.l[0] = first;
+    event.xclient.data.l[1] = second;
+    XSendEvent(connection(), rootWindow(), False, SubstructureRedirectMask | SubstructureNotifyMask,
+               &event);
+    XSync(connection(), False);
+}
+
+bool isOverrideRedirect(Window window)
+{
+    XWindowAttributes attributes{};
+    XGetWindowAttributes(connection(), window, &attributes);
+    return attributes.override_redirect;
+}
+
+void collectWindows(Window from, const std::string& title, std::vector<Window>& found)
+{
+    for (const Window child : childrenOf(from)) {
+        if (nameOf(child) == title && isViewable(child)) found.push_back(child);
+        collectWindows(child, title, found);
+    }
+}
+
+}  // namespace
+
+Kind kind()
+{
+    if (!itemsOf(rootWindow(), "_MOTIF_WM_INFO").empty()) return Kind::Mwm;
+    const auto check = itemsOf(rootWindow(), "_NET_SUPPORTING_WM_CHECK");
+    if (check.empty()) return Kind::NoManager;
+    return netNameOf(check.front()) == "Openbox" ? Kind::Openbox : Kind::Other;
+}
+
+Client::Client(Widget widget) : window(windowOf(shellOf(widget))) {}
+
+State stateOf(Client client)
+{
+    const auto items = itemsOf(client.window, "WM_STATE");
+    if (items.empty() || items.front() == WithdrawnState) return State::Withdrawn;
+    return items.front() == IconicState ? State::Iconic : State::Normal;
+}
+
+bool isSettled(Client client)
+{
+    if (!isViewable(client.window)) return false;
+    if (kind() == Kind::NoManager || isOverrideRedirect(client.window)) return true;
+    return stateOf(client) == State::Normal;
+}
+
+bool waitUntilSettled(Client client)
+{
+    return pumpUntil([&] { return isSettled(client); });
+}
+
+bool hasFocus(Client client)
+{
+    Window focus = 0;
+    int revertTo = 0;
+    XGetInputFocus(connection(), &focus, &revertTo);
+    // None and PointerRoot are no windows.
+    for (; focus > PointerRoot && focus != rootWindow(); focus = parentOf(focus))
+        if (focus == client.window) return true;
+    return false;
+}
+
+bool waitForFocus(Client client)
+{
+    return pumpUntil([&] { return hasFocus(client); });
+}
+
+Window frameOf(Client client)
+{
+    Window window = client.window;
+    for (Window parent = parentOf(window); parent && parent != rootWindow(); parent = parentOf(window))
+        window = parent;
+    return window;
+}
+
+Rect frameRect(Client client)
+{
+    return rectOnScreen(frameOf(client));
+}
+
+Rect clientRect(Client client)
+{
+    return rectOnScreen(client.window);
+}
+
+void close(Client client)
+{
+    waitUntilSettled(client);
+    const int before = toolkit::received(ClientMessage);
+    if (kind() == Kind::Mwm) return closeByDecoration(client);
+    if (kind() != Kind::Openbox) return requestClose(client);
+    constexpr long kFromPager = 2;
+    askManager(client, "_NET_CLOSE_WINDOW", CurrentTime, kFromPager);
+    awaitCloseRequest(client, before);
+}
+
+void closeByDecoration(Client client)
+{
+    waitUntilSettled(client);
+    const bool isMwm = kind() == Kind::Mwm;
+    const std::optional<Point> button = isMwm ? menuButton(client) : closeButton(client);
+    if (!button) return requestClose(client);
+    const int before = toolkit::received(ClientMessage);
+    Robot& robot = Robot::instance();
+    robot.moveTo(*button);
+    if (isMwm)
+        robot.doubleClick();
+    else
+        robot.click();
+    awaitCloseRequest(client, before);
+}
+
+void requestClose(Client client)
+{
+    const int before = toolkit::received(ClientMessage);
+    XEvent event{};
+    event.xclient.type = ClientMessage;
+    event.xclient.window = client.window;
+    event.xclient.message_type = atom("WM_PROTOCOLS");
+    event.xclient.format = 32;
+    event.xclient.data.l[0] = static_cast<long>(atom("WM_DELETE_WINDOW"));
+    event.xclient.data.l[1] = CurrentTime;
+    XSendEvent(connection(), client.window, False, NoEventMask, &event);
+    XSync(connection(), False);
+    awaitCloseRequest(client, before);
+}
+
+void iconify(Client client)
+{
+    askManager(client, "WM_CHANGE_STATE", IconicState);
+}
+
+void iconifyByDecoration(Client client)
+{
+    waitUntilSettled(client);
+    const std::optional<Point> button = iconifyButton(client);
+    if (!button) {
+        ADD_FAILURE() << "The window has no button to iconify it.";
+        return;
+    }
+    Robot::instance().moveTo(*button);
+    Robot::instance().click();
+}
+
+void deiconify(Client client)
+{
+    XMapWindow(connection(), client.window);
+    XSync(connection(), False);
+}
+
+void activate(Client client)
+{
+    if (kind() == Kind::Openbox) {
+        constexpr long kFromPager = 2;
+        return askManager(client, "_NET_ACTIVE_WINDOW", kFromPager);
+    }
+    if (const std::optional<Point> title = titleBar(client)) {
+        Robot::instance().moveTo(*title);
+        Robot::instance().click();
+    }
+}
+
+void moveTo(Client client, Point frameCorner)
+{
+    waitUntilSettled(client);
+    const std::optional<Point> title = titleBar(client);
+    if (!title) {
+        ADD_FAILURE() << "The window has no title bar to drag.";
+        return;
+    }
+    const Rect frame = frameRect(client);
+    Robot::instance().drag(*title, *title + Point{frameCorner.x - frame.x, frameCorner.y - frame.y});
+}
+
+Window waitForWindow(const std::string& title)
+{
+    std::vector<Window> found;
+    pumpUntil([&] {
+        collectWindows(rootWindow(), title, found);
+        return !found.empty();
+    });
+    return found.empty() ? 0 : found.front();
+}
+
+}  // namespace kite::testing::wm
