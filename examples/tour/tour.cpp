@@ -39,7 +39,7 @@ void showError()
 
 void showTip()
 {
-    report("The note answered", guiTipBox("A note at the pointer:\nclick, or move over it"));
+    report("The note", guiTipBox("A note at the pointer:\nclick, or move over it"));
 }
 
 void askOkCancel()
