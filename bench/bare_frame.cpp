@@ -21,8 +21,8 @@ constexpr char kFixed[] = "-misc-fixed-medium-r-normal--14-110-100-100-c-*-iso88
 XmFontList loadFont(Display* display, const char* name)
 {
     XFontStruct* const font = XLoadQueryFont(display, name);
-    XmFontListEntry entry = XmFontListEntryCreate(const_cast<char*>(XmFONTLIST_DEFAULT_TAG),
-                                                  XmFONT_IS_FONT, font);
+    XmFontListEntry entry =
+        XmFontListEntryCreate(const_cast<char*>(XmFONTLIST_DEFAULT_TAG), XmFONT_IS_FONT, font);
     XmFontList const list = XmFontListAppendEntry(nullptr, entry);
     XmFontListEntryFree(&entry);
     return list;
@@ -49,10 +49,10 @@ Widget createShell(Display* display)
 Widget createText(Widget mainWindow, Widget scroller, XmFontList font)
 {
     Screen* const screen = XtScreen(mainWindow);
-    return XtVaCreateManagedWidget(
-        "text", xmTextWidgetClass, scroller, XmNeditMode, XmMULTI_LINE_EDIT, XmNblinkRate, 0,
-        XmNforeground, BlackPixelOfScreen(screen), XmNbackground, WhitePixelOfScreen(screen),
-        XmNfontList, font, nullptr);
+    return XtVaCreateManagedWidget("text", xmTextWidgetClass, scroller, XmNeditMode,
+                                   XmMULTI_LINE_EDIT, XmNblinkRate, 0, XmNforeground,
+                                   BlackPixelOfScreen(screen), XmNbackground,
+                                   WhitePixelOfScreen(screen), XmNfontList, font, nullptr);
 }
 
 void createStatusBar(Widget bar, XmFontList font)
@@ -79,9 +79,9 @@ void createContents(BareFrame& frame)
     XmFontList const fixed = loadFont(frame.display, kFixed);
     XtVaSetValues(frame.shell, XmNbuttonFontList, buttons, nullptr);
     Widget menuBar = XmCreateMenuBar(frame.mainWindow, const_cast<char*>("menu"), nullptr, 0);
-    Widget scroller = XtVaCreateManagedWidget("scroller", xmScrolledWindowWidgetClass,
-                                              frame.mainWindow, XmNscrollingPolicy,
-                                              XmAPPLICATION_DEFINED, nullptr);
+    Widget scroller =
+        XtVaCreateManagedWidget("scroller", xmScrolledWindowWidgetClass, frame.mainWindow,
+                                XmNscrollingPolicy, XmAPPLICATION_DEFINED, nullptr);
     frame.text = createText(frame.mainWindow, scroller, fixed);
     Widget statusBar =
         XtVaCreateManagedWidget("status", xmFormWidgetClass, frame.mainWindow, nullptr);
@@ -105,8 +105,7 @@ BareFrame openBareFrame()
     frame.display =
         XtOpenDisplay(frame.application, nullptr, "bare", "Bare", nullptr, 0, &count, arguments);
     frame.shell = createShell(frame.display);
-    frame.mainWindow =
-        XtVaCreateWidget("main", xmMainWindowWidgetClass, frame.shell, nullptr);
+    frame.mainWindow = XtVaCreateWidget("main", xmMainWindowWidgetClass, frame.shell, nullptr);
     createContents(frame);
     XtManageChild(frame.mainWindow);
     XtRealizeWidget(frame.shell);

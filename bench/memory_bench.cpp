@@ -73,4 +73,6 @@ void residentSize(benchmark::State& state, const char* path)
 }  // namespace
 
 BENCHMARK_CAPTURE(residentSize, bare, BARE_PROGRAM)->Name("memory hello/bare")->Iterations(1);
-BENCHMARK_CAPTURE(residentSize, kitegui, HELLO_PROGRAM)->Name("memory hello/kitegui")->Iterations(1);
+BENCHMARK_CAPTURE(residentSize, kitegui, HELLO_PROGRAM)
+    ->Name("memory hello/kitegui")
+    ->Iterations(1);

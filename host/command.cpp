@@ -31,10 +31,7 @@ public:
     ChildSignalHeld(const ChildSignalHeld&) = delete;
     ChildSignalHeld& operator=(const ChildSignalHeld&) = delete;
 
-    ~ChildSignalHeld()
-    {
-        pthread_sigmask(SIG_SETMASK, &before, nullptr);
-    }
+    ~ChildSignalHeld() { pthread_sigmask(SIG_SETMASK, &before, nullptr); }
 
 private:
     sigset_t before;
@@ -58,15 +55,9 @@ public:
     FreshSignals(const FreshSignals&) = delete;
     FreshSignals& operator=(const FreshSignals&) = delete;
 
-    ~FreshSignals()
-    {
-        posix_spawnattr_destroy(&attributes);
-    }
+    ~FreshSignals() { posix_spawnattr_destroy(&attributes); }
 
-    const posix_spawnattr_t* get() const
-    {
-        return &attributes;
-    }
+    const posix_spawnattr_t* get() const { return &attributes; }
 
 private:
     posix_spawnattr_t attributes;

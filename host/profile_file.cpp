@@ -20,13 +20,10 @@ constexpr int kMaxKept = 10000;  // damaged profiles; the next one stays where i
 State stateFor(int openError)
 {
     switch (openError) {
-    case ENOENT:
-        return State::Missing;
+    case ENOENT: return State::Missing;
     case EACCES:
-    case EPERM:
-        return State::Unreadable;
-    default:
-        return State::Unusable;
+    case EPERM: return State::Unreadable;
+    default: return State::Unusable;
     }
 }
 
@@ -122,7 +119,8 @@ ProfileLock::ProfileLock(const std::string& path)
                       O_RDONLY | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, kNewFileMode);
       })},
       held{file.isOpen() && uninterrupted([&] { return flock(file.get(), LOCK_EX); }) == 0}
-{}
+{
+}
 
 bool ProfileLock::isHeld() const
 {

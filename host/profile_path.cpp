@@ -50,7 +50,7 @@ std::optional<std::string> behindLinks(std::string path)
         std::error_code error;
         const std::string target = std::filesystem::read_symlink(path, error).string();
         if (error) return path;
-        path = target.starts_with('/') ? target : directoryOf(path) + target;
+        path = target.starts_with('/') ? target : directoryOf(path).append(target);
     }
     return std::nullopt;
 }

@@ -27,15 +27,9 @@ public:
         if (isOpen()) close(number);
     }
 
-    bool isOpen() const
-    {
-        return number >= 0;
-    }
+    bool isOpen() const { return number >= 0; }
 
-    int get() const
-    {
-        return number;
-    }
+    int get() const { return number; }
 
 private:
     const int number;

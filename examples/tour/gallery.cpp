@@ -48,7 +48,10 @@ const std::vector<Step>& steps()
         {"error", "F2 shows an error", [] { press(XK_F2); }},
         {"error-read", "Return again", [] { press(XK_Return); }},
         {"tip", "F3 shows a note at the pointer", [] { press(XK_F3); }},
-        {"tip-left", "the pointer leaves it", [] { robot().moveTo(Point{300, 300}); }},
+        {"tip-left", "the pointer leaves it",
+         [] {
+             robot().moveTo(Point{300, 300});
+         }},
         {"ok-cancel", "F4 asks for OK or Cancel", [] { press(XK_F4); }},
         {"ok-cancel-answered", "Escape is Cancel", [] { press(XK_Escape); }},
         {"yes-no", "F5 asks for Yes or No", [] { press(XK_F5); }},

@@ -9,8 +9,8 @@
 
 namespace {
 
-constexpr int kTick = 200;      // milliseconds between two steps of the gauge
-constexpr int kGaugeStep = 5;   // per cent
+constexpr int kTick = 200;     // milliseconds between two steps of the gauge
+constexpr int kGaugeStep = 5;  // per cent
 
 int progress = 0;
 bool isTicking = false;
@@ -61,7 +61,8 @@ void askText(const char* prompt, const char* proposal, bool isHidden)
 {
     std::array<char, 64> answer{};
     std::snprintf(answer.data(), answer.size(), "%s", proposal);
-    const int length = guiGetTextBox(prompt, answer.data(), static_cast<int>(answer.size()), isHidden);
+    const int length =
+        guiGetTextBox(prompt, answer.data(), static_cast<int>(answer.size()), isHidden);
     if (length < 0)
         report("No text was given");
     else if (isHidden)

@@ -73,8 +73,8 @@ void prepareButtons(ModalBox& box, const MessageBox& kind)
     std::vector<Widget> buttons{box.child(XmDIALOG_OK_BUTTON)};
     prepareButton(box, buttons.back(), kind.ok);
     if (kind.extra) {
-        buttons.push_back(XtVaCreateManagedWidget("v_nopbtn", xmPushButtonWidgetClass, box.widget(),
-                                                  nullptr));
+        buttons.push_back(
+            XtVaCreateManagedWidget("v_nopbtn", xmPushButtonWidgetClass, box.widget(), nullptr));
         prepareButton(box, buttons.back(), *kind.extra);
     }
     if (kind.cancel) {

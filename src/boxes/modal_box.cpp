@@ -62,8 +62,8 @@ void ModalBox::useDialogFont(std::initializer_list<Widget> parts)
 void ModalBox::finishButtons(ButtonWidth width, const std::vector<Widget>& buttons)
 {
     const bool isTriple = width == ButtonWidth::TripleOk;
-    const auto natural =
-        resource<Dimension>(child(isTriple ? XmDIALOG_OK_BUTTON : XmDIALOG_CANCEL_BUTTON), XmNwidth);
+    const auto natural = resource<Dimension>(
+        child(isTriple ? XmDIALOG_OK_BUTTON : XmDIALOG_CANCEL_BUTTON), XmNwidth);
     for (Widget const button : buttons)
         XtVaSetValues(button, XmNrecomputeSize, False, XmNwidth, isTriple ? natural * 3 : natural,
                       XmNshadowThickness, 2, XmNhighlightThickness, 1,

@@ -19,8 +19,7 @@ namespace kite {
 
 namespace {
 
-const ModalBox::Look kPromptLook{XmCreatePromptDialog, "v_promptbox", "",
-                                     XmNselectionLabelString};
+const ModalBox::Look kPromptLook{XmCreatePromptDialog, "v_promptbox", "", XmNselectionLabelString};
 
 void prepareField(Widget box, Widget field, std::string text, int mostCharacters, bool isHidden)
 {

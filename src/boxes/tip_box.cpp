@@ -33,7 +33,8 @@ void happened(Widget, XtPointer, XEvent* event, Boolean*)
 {
     // The note comes up under the pointer: a crossing without a movement is the note's, not the user's.
     const bool isCrossing = event->type != ButtonPress;
-    if (isCrossing && Point{event->xcrossing.x_root, event->xcrossing.y_root} == state.shownAt) return;
+    if (isCrossing && Point{event->xcrossing.x_root, event->xcrossing.y_root} == state.shownAt)
+        return;
     state.result = 0;
 }
 
@@ -64,8 +65,8 @@ Point pointerOnScreen(Widget window)
     int x, y;
     Point pointer{};
     unsigned int buttons;
-    XQueryPointer(XtDisplay(window), XtWindow(window), &root, &child, &pointer.x, &pointer.y, &x, &y,
-                  &buttons);
+    XQueryPointer(XtDisplay(window), XtWindow(window), &root, &child, &pointer.x, &pointer.y, &x,
+                  &y, &buttons);
     return pointer;
 }
 
@@ -113,7 +114,8 @@ int guiTipBox(const char* text)
     if (!note) return 0;
     replaceNote(note);
     if (createLabel(note, text, background))
-        for (const EventMask mask : kWatchedEvents) XtAddEventHandler(note, mask, False, happened, nullptr);
+        for (const EventMask mask : kWatchedEvents)
+            XtAddEventHandler(note, mask, False, happened, nullptr);
     placeAtPointer(note);
     return waitForUser(note);
 }

@@ -7,6 +7,7 @@ namespace kite {
 inline constexpr int kBuiltInIconSize = 32;
 
 // One bit a pixel, least significant bit first, as an X bitmap wants it.
+// clang-format off
 inline constexpr unsigned char kBuiltInIcon[kBuiltInIconSize * kBuiltInIconSize / 8] = {
     0x00, 0x00, 0x00, 0x00,
     0x00, 0x00, 0x0e, 0x00,
@@ -41,5 +42,6 @@ inline constexpr unsigned char kBuiltInIcon[kBuiltInIconSize * kBuiltInIconSize 
     0xf0, 0x08, 0x00, 0x00,
     0x40, 0x00, 0x00, 0x00,
 };
+// clang-format on
 
 }  // namespace kite

@@ -35,7 +35,8 @@ BusyCursor::BusyCursor(bool beforeShowing) : window_(windowToCover(beforeShowing
 {
     Widget const window = window_.get();
     if (!window || !XtIsRealized(window)) return;
-    XDefineCursor(XtDisplayOfObject(window), XtWindowOfObject(window), watchCursor(XtDisplayOfObject(window)));
+    XDefineCursor(XtDisplayOfObject(window), XtWindowOfObject(window),
+                  watchCursor(XtDisplayOfObject(window)));
     XFlush(XtDisplayOfObject(window));
 }
 

@@ -18,7 +18,7 @@ struct Event {
 };
 
 struct {
-    GuiHandler hostCallback = nullptr;             // set once by guiInit
+    GuiHandler hostCallback = nullptr;                 // set once by guiInit
     dispatcher::FrameActions frame{nullptr, nullptr};  // set by guiInit
     bool started = false;         // set by guiStart and the first event, cleared by guiRestart
     bool suppressed = false;      // raised and lowered by EventsSuppressed

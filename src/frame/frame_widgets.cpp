@@ -42,10 +42,10 @@ Widget createMenuBar(Widget mainWindow)
 
 Widget createOutputText(Widget scroller)
 {
-    Widget text = XtVaCreateManagedWidget(
-        "v_text", xmTextWidgetClass, scroller, XmNeditMode, XmMULTI_LINE_EDIT, XmNeditable, True,
-        XmNblinkRate, 0, XmNforeground, blackPixel(scroller), XmNbackground, whitePixel(scroller),
-        nullptr);
+    Widget text = XtVaCreateManagedWidget("v_text", xmTextWidgetClass, scroller, XmNeditMode,
+                                          XmMULTI_LINE_EDIT, XmNeditable, True, XmNblinkRate, 0,
+                                          XmNforeground, blackPixel(scroller), XmNbackground,
+                                          whitePixel(scroller), nullptr);
     frameFonts::apply(text, frameFonts::output());
     showInsertionCursorWithFocus(text);
     raiseFunctionKeyCommands(text);
@@ -71,10 +71,10 @@ Widget createGauge(Widget statusBar, Widget statusLine)
     return XtVaCreateManagedWidget(
         "v_gauge", xmScaleWidgetClass, statusBar, XmNorientation, XmHORIZONTAL, XmNvalue, 0,
         XmNeditable, False, XmNtraversalOn, False, XmNslidingMode, XmTHERMOMETER, XmNsliderVisual,
-        XmFOREGROUND_COLOR, XmNsliderMark, XmNONE, XmNleftAttachment, XmATTACH_WIDGET, XmNleftWidget,
-        statusLine, XmNrightAttachment, XmATTACH_FORM, XmNrightOffset, kGaugeRightMargin,
-        XmNtopAttachment, XmATTACH_FORM, XmNtopOffset, kGaugeMargin, XmNbottomAttachment,
-        XmATTACH_FORM, XmNbottomOffset, kGaugeMargin, nullptr);
+        XmFOREGROUND_COLOR, XmNsliderMark, XmNONE, XmNleftAttachment, XmATTACH_WIDGET,
+        XmNleftWidget, statusLine, XmNrightAttachment, XmATTACH_FORM, XmNrightOffset,
+        kGaugeRightMargin, XmNtopAttachment, XmATTACH_FORM, XmNtopOffset, kGaugeMargin,
+        XmNbottomAttachment, XmATTACH_FORM, XmNbottomOffset, kGaugeMargin, nullptr);
 }
 
 Pixmap createIcon()
@@ -114,12 +114,12 @@ void createContents(Widgets& frame)
         XtVaSetValues(frame.shell, XmNbuttonFontList, font, nullptr);
     frame.menuBar = createMenuBar(frame.mainWindow);
     frame.toolbar = createToolbar(frame.mainWindow);
-    frame.scroller = XtVaCreateManagedWidget("v_scroll", xmScrolledWindowWidgetClass,
-                                             frame.mainWindow, XmNscrollingPolicy,
-                                             XmAPPLICATION_DEFINED, nullptr);
+    frame.scroller =
+        XtVaCreateManagedWidget("v_scroll", xmScrolledWindowWidgetClass, frame.mainWindow,
+                                XmNscrollingPolicy, XmAPPLICATION_DEFINED, nullptr);
     frame.text = createOutputText(frame.scroller);
-    frame.statusBar = XtVaCreateManagedWidget("v_statusbar", xmFormWidgetClass, frame.mainWindow,
-                                              nullptr);
+    frame.statusBar =
+        XtVaCreateManagedWidget("v_statusbar", xmFormWidgetClass, frame.mainWindow, nullptr);
     frame.statusLine = createStatusLine(frame.statusBar);
     frame.gauge = createGauge(frame.statusBar, frame.statusLine);
     XtVaSetValues(frame.mainWindow, XmNworkWindow, frame.scroller, XmNmessageWindow,

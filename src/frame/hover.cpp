@@ -14,13 +14,13 @@ namespace kite::hover {
 namespace {
 
 constexpr char kTipName[] = "v_tooltip";
-constexpr int kBelowPointer = 20;                       // pixels, clear of the pointer's own shape
+constexpr int kBelowPointer = 20;  // pixels, clear of the pointer's own shape
 constexpr Colour kTipBackground{0xFFFF, 0xFFFF, 0xFFAA};
 
 struct {
-    int delay = -1;         // set by setDelay
-    XtIntervalId timer = 0; // the one pending time-out, 0 when there is none
-    std::string tip;        // what it will show
+    int delay = -1;          // set by setDelay
+    XtIntervalId timer = 0;  // the one pending time-out, 0 when there is none
+    std::string tip;         // what it will show
 } state;
 
 struct Point {
@@ -43,10 +43,11 @@ void showTip(Widget window)
 {
     const Point pointer = pointerIn(window);
     const CompoundString text{state.tip.c_str()};
-    Widget tip = XtVaCreateWidget(
-        kTipName, xmLabelWidgetClass, window, XmNx, pointer.x, XmNy, pointer.y + kBelowPointer,
-        XmNborderWidth, 1, XmNbackground, allocateColour(window, kTipBackground), XmNforeground,
-        blackPixel(window), XmNborderColor, blackPixel(window), XmNlabelString, text.get(), nullptr);
+    Widget tip =
+        XtVaCreateWidget(kTipName, xmLabelWidgetClass, window, XmNx, pointer.x, XmNy,
+                         pointer.y + kBelowPointer, XmNborderWidth, 1, XmNbackground,
+                         allocateColour(window, kTipBackground), XmNforeground, blackPixel(window),
+                         XmNborderColor, blackPixel(window), XmNlabelString, text.get(), nullptr);
     XtRealizeWidget(tip);
     XMapRaised(XtDisplay(tip), XtWindow(tip));
 }

@@ -21,7 +21,8 @@ namespace {
 class OpenFile {
 public:
     OpenFile(const char* path, int flags)
-        : descriptor_(path ? open(path, O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC | flags, 0666) : -1)
+        : descriptor_(path ? open(path, O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC | flags, 0666)
+                           : -1)
     {
     }
     ~OpenFile()
@@ -35,7 +36,7 @@ public:
 
     bool isEmpty() const
     {
-        struct stat status{};
+        struct stat status {};
         return fstat(descriptor_, &status) != 0 || status.st_size == 0;
     }
 
@@ -70,8 +71,8 @@ std::string stampedLine(const char* what)
     localtime_r(&now, &local);
     std::array<char, 96> line{};
     std::snprintf(line.data(), line.size(), ">>>%s: %04d.%02d.%02d %02d:%02d:%02d\n", what,
-                  local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min,
-                  local.tm_sec);
+                  local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour,
+                  local.tm_min, local.tm_sec);
     return line.data();
 }
 

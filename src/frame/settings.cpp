@@ -3,8 +3,6 @@
 #include <clocale>
 #include <cmath>
 #include <cstdlib>
-#include <limits>
-#include <locale.h>
 #include <vector>
 
 #include "frame/app_info.h"
@@ -132,7 +130,7 @@ int parseHoverDelay(const char* text)
     const float milliseconds = strtof_l(text, &end, plain) * 1000.0F;
     if (end == text || std::isnan(milliseconds)) return kDefaultHoverDelay;
     if (milliseconds < 0.0F) return -1;
-    constexpr auto kLongest = static_cast<float>(std::numeric_limits<int>::max() / 2);
+    constexpr auto kLongest = 1.0e9F;
     return static_cast<int>(std::fmin(milliseconds, kLongest));
 }
 

@@ -8,10 +8,10 @@ namespace kite::settings {
 
 // ---- integers -------------------------------------------------------------------------------
 
-int startupHook();       // "spsec": above 0, a start-up hook runs
-int logMode();           // "logfm": 0 or less no log, 1 a new log, else a continued one
-bool savesGeometry();    // "mwndp"
-int dropDownHeight();    // "ch_height": eighths
+int startupHook();     // "spsec": above 0, a start-up hook runs
+int logMode();         // "logfm": 0 or less no log, 1 a new log, else a continued one
+bool savesGeometry();  // "mwndp"
+int dropDownHeight();  // "ch_height": eighths
 
 struct Geometry {
     int x, y, width, height;  // pixels; -1 stands for "not saved"
@@ -22,10 +22,10 @@ void saveGeometry(const Geometry& geometry);
 
 // ---- strings --------------------------------------------------------------------------------
 
-std::string logFileName();       // "logfn"
-std::string statusLineFont();    // "fnamm"
-std::string menuBarFont();       // "fnamn"
-std::string outputFont();        // "fnamt"
+std::string logFileName();     // "logfn"
+std::string statusLineFont();  // "fnamm"
+std::string menuBarFont();     // "fnamn"
+std::string outputFont();      // "fnamt"
 
 // "mouse_hover" in milliseconds; negative: tooltips and hover events are off.
 int hoverDelay();

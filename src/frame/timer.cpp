@@ -12,8 +12,8 @@ namespace {
 constexpr int kShortestInterval = 100;  // milliseconds; less means no timer
 
 struct {
-    int interval = 0;      // set by guiTimer
-    XtIntervalId id = 0;   // the running time-out, 0 while its event is being handled
+    int interval = 0;     // set by guiTimer
+    XtIntervalId id = 0;  // the running time-out, 0 while its event is being handled
 } state;
 
 void arm();

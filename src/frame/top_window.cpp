@@ -9,8 +9,8 @@ namespace kite {
 namespace {
 
 struct {
-    WidgetRef main;  // set when the frame is built, empty once it is closed
-    WidgetRef top;   // set by dialogs, boxes and the host
+    WidgetRef main;       // set when the frame is built, empty once it is closed
+    WidgetRef top;        // set by dialogs, boxes and the host
     bool hasTop = false;  // false: the host or closing said that there is none
 } state;
 

@@ -8,8 +8,8 @@ void FontList::load(Display* display, const char* fontName)
     font_ = XLoadQueryFont(display, fontName);
     if (!font_) return;
     display_ = display;
-    XmFontListEntry entry = XmFontListEntryCreate(const_cast<char*>(XmFONTLIST_DEFAULT_TAG),
-                                                  XmFONT_IS_FONT, font_);
+    XmFontListEntry entry =
+        XmFontListEntryCreate(const_cast<char*>(XmFONTLIST_DEFAULT_TAG), XmFONT_IS_FONT, font_);
     list_ = XmFontListAppendEntry(nullptr, entry);
     XmFontListEntryFree(&entry);
 }

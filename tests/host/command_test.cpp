@@ -13,10 +13,7 @@ namespace {
 
 class Command : public HostTest {
 protected:
-    static int run(const std::string& line)
-    {
-        return kxExec(line.c_str(), 1, 1);
-    }
+    static int run(const std::string& line) { return kxExec(line.c_str(), 1, 1); }
 
     // The masks of signals that the shell itself was started with: one line of its status.
     std::string shellStatus(const std::string& field) const
@@ -146,8 +143,7 @@ volatile sig_atomic_t reaperCalls = 0;
 void reapAll(int)
 {
     reaperCalls = reaperCalls + 1;
-    while (waitpid(-1, nullptr, WNOHANG) > 0) {
-    }
+    while (waitpid(-1, nullptr, WNOHANG) > 0) {}
 }
 
 TEST_F(Command, HostThatReapsEveryChildDoesNotTakeTheStatus)

@@ -44,10 +44,10 @@ Environment::~Environment()
 }
 
 HostTest::HostTest()
-    : directory{newDirectory()},
-      profile{directory + "/profile.ini"},
-      chosenProfile{"KITE_PROFILE", profile.c_str()}
-{}
+    : directory{newDirectory()}, profile{directory + "/profile.ini"}, chosenProfile{"KITE_PROFILE",
+                                                                                    profile.c_str()}
+{
+}
 
 HostTest::~HostTest()
 {

@@ -45,7 +45,8 @@ TEST_F(AppInfo, ReplacesALongerTextWhole)
 TEST_F(AppInfo, KeepsSixtyThreeCharacters)
 {
     const std::string long100(100, 'x');
-    for (const std::size_t length : {std::size_t{62}, std::size_t{63}, std::size_t{64}, std::size_t{100}}) {
+    for (const std::size_t length :
+         {std::size_t{62}, std::size_t{63}, std::size_t{64}, std::size_t{100}}) {
         const std::string text = long100.substr(0, length);
         guiSetAppInfo(text.c_str(), text.c_str());
         EXPECT_EQ(kite::appTitle(), text.substr(0, 63));

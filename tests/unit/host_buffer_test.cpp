@@ -9,7 +9,8 @@ TEST(HostBuffer, NeedsRoomForOneByteAndTheNull)
 {
     char byte = 'x';
     EXPECT_FALSE(kite::isUsableBuffer(nullptr, 100));
-    for (const int size : {INT_MIN, -1, 0, 1}) EXPECT_FALSE(kite::isUsableBuffer(&byte, size)) << size;
+    for (const int size : {INT_MIN, -1, 0, 1})
+        EXPECT_FALSE(kite::isUsableBuffer(&byte, size)) << size;
     for (const int size : {2, INT_MAX}) EXPECT_TRUE(kite::isUsableBuffer(&byte, size)) << size;
 }
 
@@ -20,7 +21,8 @@ TEST(HostBuffer, GetsWhatFitsAndIsTerminated)
         const char* text;
         const char* copied;
     } const rows[] = {
-        {2, "", ""}, {2, "a", "a"}, {2, "ab", "a"}, {4, "abc", "abc"}, {3, "abc", "ab"}, {8, "abc", "abc"},
+        {2, "", ""},       {2, "a", "a"},    {2, "ab", "a"},
+        {4, "abc", "abc"}, {3, "abc", "ab"}, {8, "abc", "abc"},
     };
     for (const auto& row : rows) {
         std::array<char, 10> buffer;

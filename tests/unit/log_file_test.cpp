@@ -80,7 +80,8 @@ TEST_F(LogFileTest, StampIsTheLocalTimeWithLeadingZeros)
     const std::time_t after = std::time(nullptr);
     const auto stamp = [](std::time_t time) {
         char text[64];
-        std::strftime(text, sizeof text, ">>>LogStarted: %Y.%m.%d %H:%M:%S\n\n", std::localtime(&time));
+        std::strftime(text, sizeof text, ">>>LogStarted: %Y.%m.%d %H:%M:%S\n\n",
+                      std::localtime(&time));
         return std::string{text};
     };
     EXPECT_THAT(read(path()), ::testing::AnyOf(stamp(before), stamp(after)));

@@ -52,7 +52,8 @@ bool operator==(const Geometry& one, const Geometry& other)
 TEST(SavedGeometry, IsKeptOrDroppedAsAWhole)
 {
     for (const Row& row : kRows)
-        EXPECT_TRUE(toOpenWith(row.saved, kScreen) == (row.isKept ? row.saved : kCentred)) << row.what;
+        EXPECT_TRUE(toOpenWith(row.saved, kScreen) == (row.isKept ? row.saved : kCentred))
+            << row.what;
 }
 
 TEST(SavedGeometry, CentresTheDefaultSizeOnAnyScreen)
@@ -67,9 +68,9 @@ TEST(Decoration, IsTakenOffWhenPlausible)
     struct {
         Position offset, expected;
     } const rows[] = {
-        {{0, 0}, {100, 200}},     {{5, 25}, {95, 175}},   {{29, 69}, {71, 131}},
-        {{30, 25}, {0, 0}},       {{5, 70}, {0, 0}},      {{-1, 25}, {0, 0}},
-        {{5, -1}, {0, 0}},        {{35, 20}, {0, 0}},     {{INT_MAX, INT_MIN}, {0, 0}},
+        {{0, 0}, {100, 200}}, {{5, 25}, {95, 175}}, {{29, 69}, {71, 131}},
+        {{30, 25}, {0, 0}},   {{5, 70}, {0, 0}},    {{-1, 25}, {0, 0}},
+        {{5, -1}, {0, 0}},    {{35, 20}, {0, 0}},   {{INT_MAX, INT_MIN}, {0, 0}},
     };
     for (const auto& row : rows) {
         const Position position = withDecoration({100, 200}, row.offset);

@@ -1,0 +1,81 @@
+// The font of the boxes: the one of the status line.
+
+#include "box_kinds.h"
+
+#include <X11/Xatom.h>
+#include <Xm/SelectioB.h>
+
+using namespace kite::testing;
+using ::testing::HasSubstr;
+
+namespace {
+
+const std::string kLargeFont = "-misc-fixed-medium-r-normal--20-200-75-75-c-100-iso8859-1";
+
+// The full name, as the server knows it.
+std::string fontOf(Widget widget)
+{
+    XmFontContext context = nullptr;
+    if (!XmFontListInitFontContext(&context, resource<XmFontList>(widget, XmNfontList))) return {};
+    XmFontListEntry const entry = XmFontListNextEntry(context);
+    XmFontType type{};
+    auto* const font = static_cast<XFontStruct*>(XmFontListEntryGetFont(entry, &type));
+    XmFontListFreeFontContext(context);
+    unsigned long name = 0;
+    if (type != XmFONT_IS_FONT || !XGetFontProperty(font, XA_FONT, &name)) return {};
+    char* const text = XGetAtomName(XtDisplayOfObject(widget), name);
+    std::string copy = text;
+    XFree(text);
+    return copy;
+}
+
+// All that shows a text and stays.
+std::vector<Widget> writtenParts(Widget box)
+{
+    std::vector<Widget> parts = buttonsOf(box);
+    parts.push_back(messageLabelOf(box));
+    if (XmIsSelectionBox(box)) parts.push_back(partOf(box, XmDIALOG_TEXT));
+    return parts;
+}
+
+void expectFont(const std::string& font)
+{
+    for (const BoxKind& kind : allBoxes())
+        whileShown(kind, [&](Shown box) {
+            for (Widget const part : writtenParts(box.widget()))
+                EXPECT_EQ(fontOf(part), font) << XtName(part);
+        });
+}
+
+}  // namespace
+
+GUI_TEST(BoxFont, IsTheOneOfTheStatusLine)
+{
+    const std::string font = fontOf(app.find("v_sline"));
+    EXPECT_THAT(font, HasSubstr("helvetica"));
+    expectFont(font);
+}
+
+GUI_STARTUP_TEST(BoxFont, IsTheOneOfTheProfile)
+{
+    host.profile().setString("fnamm", kLargeFont);
+    app.run([] {
+        SCOPED_TRACE("after the start");
+        expectFont("-Misc-Fixed-Medium-R-Normal--20-200-75-75-C-100-ISO8859-1");
+    });
+}
+
+GUI_STARTUP_TEST(BoxFont, IsTheToolkitsWhenThereIsNone)
+{
+    host.profile().setString("fnamm", "-no-such-font-*-*-*--14-*-*-*-*-*-*-*");
+    app.run([] {
+        for (const BoxKind& kind : allBoxes()) {
+            const BareBox bare{kind};
+            whileShown(kind, [&](Shown box) {
+                for (Widget const part : buttonsOf(box.widget()))
+                    EXPECT_EQ(fontOf(part), fontOf(bare.part(XmDIALOG_OK_BUTTON)));
+                EXPECT_EQ(fontOf(messageLabelOf(box.widget())), fontOf(messageLabelOf(bare.widget())));
+            });
+        }
+    });
+}

@@ -1,0 +1,131 @@
+// The three fonts of the frame.
+
+#include <Xm/CascadeB.h>
+#include <Xm/LabelG.h>
+#include <Xm/Text.h>
+
+#include "frame_checks.h"
+#include "gui_test.h"
+
+using namespace kite::testing;
+
+namespace {
+
+constexpr char kHelvetica[] = "-adobe-helvetica-medium-r-normal--14-100-100-100-p-*-iso8859-1";
+constexpr char kFixed[] = "-misc-fixed-medium-r-normal--14-110-100-100-c-*-iso8859-1";
+constexpr char kCourier[] = "-adobe-courier-bold-r-normal--24-240-75-75-m-*-iso8859-1";
+constexpr char kMissing[] = "-nobody-nothing-medium-r-normal--14-*-*-*-*-*-iso8859-1";
+
+std::string fontOf(const char* name)
+{
+    return fontNameOf(findWidget(name), XmNfontList);
+}
+
+// Of a menu's title, which takes its font from the menu bar.
+std::string fontOfMenuTitle()
+{
+    Widget const button = XtVaCreateWidget("title", xmCascadeButtonWidgetClass,
+                                           findWidget("v_menubar"), nullptr);
+    return fontNameOf(button, XmNfontList);
+}
+
+// Of widgets that nobody has given a font.
+std::string toolkitFontOf(WidgetClass widgetClass, const char* parent)
+{
+    Widget const plain = XtVaCreateWidget("plain", widgetClass, findWidget(parent), nullptr);
+    return fontNameOf(plain, XmNfontList);
+}
+
+}  // namespace
+
+GUI_TEST(FrameFonts, HaveDefaults)
+{
+    ASSERT_NE(fontNameFor(kHelvetica), "");
+    ASSERT_NE(fontNameFor(kFixed), "");
+    EXPECT_EQ(fontOf("v_sline"), fontNameFor(kHelvetica));
+    EXPECT_EQ(fontOfMenuTitle(), fontNameFor(kHelvetica));
+    EXPECT_EQ(fontOf("v_text"), fontNameFor(kFixed));
+}
+
+GUI_STARTUP_TEST(FrameFonts, EachHasItsOwnKey)
+{
+    host.profile().setString("fnamm", kCourier);
+    host.profile().setString("fnamn", "fixed");
+    host.profile().setString("fnamt", "8x13");
+    app.run([] {
+        EXPECT_EQ(fontOf("v_sline"), fontNameFor(kCourier));
+        EXPECT_EQ(fontOfMenuTitle(), fontNameFor("fixed"));
+        EXPECT_EQ(fontOf("v_text"), fontNameFor("8x13"));
+    });
+}
+
+GUI_STARTUP_TEST(FrameFonts, EmptyNamesCountAsAbsent)
+{
+    for (const char* key : {"fnamm", "fnamn", "fnamt"}) host.profile().setString(key, "");
+    app.run([] {
+        EXPECT_EQ(fontOf("v_sline"), fontNameFor(kHelvetica));
+        EXPECT_EQ(fontOfMenuTitle(), fontNameFor(kHelvetica));
+        EXPECT_EQ(fontOf("v_text"), fontNameFor(kFixed));
+    });
+}
+
+GUI_STARTUP_TEST(FrameFonts, MissingOnesLeaveTheToolkitsOwn)
+{
+    for (const char* key : {"fnamm", "fnamn", "fnamt"}) host.profile().setString(key, kMissing);
+    app.run([] {
+        EXPECT_EQ(fontOf("v_sline"), toolkitFontOf(xmLabelGadgetClass, "v_statusbar"));
+        EXPECT_EQ(fontOf("v_text"), toolkitFontOf(xmTextWidgetClass, "v_scroll"));
+        EXPECT_NE(fontOfMenuTitle(), fontNameFor(kHelvetica));
+    });
+}
+
+GUI_STARTUP_TEST(FrameFonts, OneMissingLeavesTheOthers)
+{
+    host.profile().setString("fnamm", kMissing);
+    app.run([] {
+        EXPECT_NE(fontOf("v_sline"), fontNameFor(kHelvetica));
+        EXPECT_EQ(fontOfMenuTitle(), fontNameFor(kHelvetica));
+        EXPECT_EQ(fontOf("v_text"), fontNameFor(kFixed));
+    });
+}
+
+// The longest name that fits the buffer, and one that does not: the server knows neither.
+GUI_STARTUP_TEST(FrameFonts, LongNamesAreSafe)
+{
+    host.profile().setString("fnamm", std::string(127, 'x'));
+    host.profile().setString("fnamn", std::string(128, 'x'));
+    host.profile().setString("fnamt", std::string(5000, 'x'));
+    app.run([] {
+        EXPECT_EQ(fontOf("v_text"), toolkitFontOf(xmTextWidgetClass, "v_scroll"));
+        guiSetStatusLine("shown");
+        EXPECT_EQ(labelOf(findWidget("v_sline")), "shown");
+    });
+}
+
+GUI_STARTUP_TEST(FrameFonts, NameOfAllTheRoomIsWhole)
+{
+    // The server takes any number of stars for the last field.
+    std::string name = "-misc-fixed-medium-r-normal--13-120-75-75-c-70-iso8859-";
+    name += std::string(126 - name.size(), '*') + "1";
+    ASSERT_EQ(name.size(), 127U);
+    ASSERT_NE(fontNameFor(name), "");
+    host.profile().setString("fnamt", name);
+    app.run([&] { EXPECT_EQ(fontOf("v_text"), fontNameFor(name)); });
+}
+
+// Fonts are freed with the frame and loaded anew.
+GUI_STARTUP_TEST(FrameFonts, AreReadAnewForTheNextFrame)
+{
+    app.run([] { EXPECT_EQ(fontOf("v_text"), fontNameFor(kFixed)); });
+    host.profile().setString("fnamt", "8x13");
+    app.run([] { EXPECT_EQ(fontOf("v_text"), fontNameFor("8x13")); });
+}
+
+GUI_STARTUP_TEST(FrameFonts, ShowOnTheScreen)
+{
+    host.profile().setString("fnamm", kCourier);
+    app.run([] {
+        // 24 pixels high, where the default has 14.
+        EXPECT_GE(rectOf(findWidget("v_sline")).height, 24);
+    });
+}

@@ -1,0 +1,76 @@
+#include "frame_checks.h"
+
+#include <X11/Xatom.h>
+
+#include <chrono>
+#include <fstream>
+#include <regex>
+#include <sstream>
+#include <thread>
+
+#include "connection.h"
+#include "patience.h"
+#include "widgets.h"
+
+namespace kite::testing {
+
+namespace {
+
+std::string fontNameOf(const XFontStruct* font)
+{
+    unsigned long value = 0;
+    if (!font || !XGetFontProperty(const_cast<XFontStruct*>(font), XA_FONT, &value)) return {};
+    char* const name = XGetAtomName(connection(), value);
+    std::string copy = name;
+    XFree(name);
+    return copy;
+}
+
+}  // namespace
+
+std::string contentsOf(const std::string& path)
+{
+    std::ifstream file{path, std::ios::binary};
+    std::ostringstream text;
+    text << file.rdbuf();
+    return text.str();
+}
+
+std::string withoutTimes(const std::string& log)
+{
+    static const std::regex stamp{R"(: \d{4}\.\d{2}\.\d{2} \d{2}:\d{2}:\d{2}\n)"};
+    return std::regex_replace(log, stamp, ": T\n");
+}
+
+std::string fontNameOf(Widget widget, const char* fontListResource)
+{
+    const auto list = resource<XmFontList>(widget, fontListResource);
+    XmFontContext context = nullptr;
+    if (!list || !XmFontListInitFontContext(&context, list)) return {};
+    XmFontListEntry const entry = XmFontListNextEntry(context);
+    XmFontType type = XmFONT_IS_FONT;
+    const void* const font = entry ? XmFontListEntryGetFont(entry, &type) : nullptr;
+    XmFontListFreeFontContext(context);
+    if (type != XmFONT_IS_FONT) return {};
+    return fontNameOf(static_cast<const XFontStruct*>(font));
+}
+
+std::string fontNameFor(const std::string& pattern)
+{
+    XFontStruct* const font = XLoadQueryFont(connection(), pattern.c_str());
+    std::string name = fontNameOf(font);
+    if (font) XFreeFont(connection(), font);
+    return name;
+}
+
+bool changesByItself(const Rect& rect, const screen::Picture& before)
+{
+    const auto end = std::chrono::steady_clock::now() + patience();
+    while (screen::grab(rect) == before) {
+        if (std::chrono::steady_clock::now() >= end) return false;
+        std::this_thread::sleep_for(milliseconds{1});
+    }
+    return true;
+}
+
+}  // namespace kite::testing
