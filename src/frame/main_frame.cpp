@@ -24,6 +24,8 @@ namespace kite::frame {
 
 namespace {
 
+int readDropDownHeight = 0;  // set by guiInit
+
 Widgets frame;  // made by guiInit, emptied when the main window is destroyed
 
 [[noreturn]] void failAtStart(const char* message)
@@ -83,6 +85,7 @@ void build()
     watchDecoration(frame.shell);
 
     frameFonts::load(session::display());
+    readDropDownHeight = settings::dropDownHeight();
     createContents(frame);
     hover::setDelay(settings::hoverDelay());
     XtManageChild(frame.mainWindow);
@@ -95,6 +98,11 @@ const Widgets& widgets()
 {
     static const Widgets none;
     return mainWindow() ? frame : none;
+}
+
+int dropDownHeight()
+{
+    return readDropDownHeight;
 }
 
 void recreateToolbar()

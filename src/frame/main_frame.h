@@ -22,6 +22,9 @@ struct Widgets {
 // All null before the frame is built and once it is closed.
 const Widgets& widgets();
 
+// The height of drop-down lists, in eighths: read once, when the frame is built.
+int dropDownHeight();
+
 // The frame without its toolbar, and with an empty one.
 void dropToolbar();
 void recreateToolbar();

@@ -4,7 +4,8 @@ namespace kite {
 
 void FontList::load(Display* display, const char* fontName)
 {
-    if (list_) return;
+    if (list_ && display_ == display) return;
+    abandon();
     font_ = XLoadQueryFont(display, fontName);
     if (!font_) return;
     display_ = display;
@@ -16,9 +17,13 @@ void FontList::load(Display* display, const char* fontName)
 
 void FontList::release()
 {
-    if (!list_) return;
-    XmFontListFree(list_);
-    XFreeFont(display_, font_);
+    if (font_) XFreeFont(display_, font_);
+    abandon();
+}
+
+void FontList::abandon()
+{
+    if (list_) XmFontListFree(list_);
     list_ = nullptr;
     font_ = nullptr;
 }

@@ -14,7 +14,7 @@ public:
     FontList(const FontList&) = delete;
     FontList& operator=(const FontList&) = delete;
 
-    // Loads the font by its X name, unless one is loaded. A name that the server does not know leaves
+    // Loads the font by its X name, unless one is loaded on this display. A name that the server does not know leaves
     // the list empty.
     void load(Display* display, const char* fontName);
     void release();
@@ -23,6 +23,8 @@ public:
     XmFontList get() const { return list_; }
 
 private:
+    void abandon();  // the font's display may be closed already
+
     Display* display_ = nullptr;
     XFontStruct* font_ = nullptr;
     XmFontList list_ = nullptr;

@@ -32,28 +32,29 @@ void App::init()
     guiInit(hostCallback);
     if (!leavesWarningsToLibrary) watchToolkitErrors(toolkit::context());
     Script::instance().arm();
-    EXPECT_TRUE(pumpUntil([this] { return isReady(); })) << "The frame is not on the screen.";
+    EXPECT_TRUE(pumpUntil([this] { return isShown(shell()) && wm::isSettled(shell()); }))
+        << "The frame is not on the screen.";
+    EXPECT_TRUE(wm::waitForFocus(shell())) << "The frame has no keyboard focus.";
+    settle();
 }
 
-// A window manager gives the keyboard to new windows; without one nobody does.
 bool App::isReady()
 {
     Widget const frame = shell();
-    if (!frame || !isShown(frame) || !wm::isSettled(frame)) return false;
-    settle();
-    return wm::kind() == wm::Kind::NoManager || wm::hasFocus(frame);
+    return frame && isShown(frame) && wm::isSettled(frame) && wm::hasFocus(frame);
 }
 
 int App::run(const std::function<void()>& body)
 {
     if (!guiGetTopWnd()) init();
     bool hasRun = false;
-    Script::instance().when("the main loop runs", [this] { return isReady(); },
-                            [&] {
-                                hasRun = true;
-                                body();
-                                closeAll();
-                            });
+    Script::instance().when(
+        "the main loop runs", [this] { return isReady(); },
+        [&] {
+            hasRun = true;
+            body();
+            closeAll();
+        });
     const int result = guiStart(windowHandler);
     EXPECT_TRUE(hasRun) << "The main loop has ended before the test began.";
     return result;
@@ -106,7 +107,8 @@ void App::finish()
     Recorder::instance().forgetReactions();
     Script::instance().finish();
     if (!guiGetTopWnd()) return;
-    Script::instance().when("the main loop runs", [] { return true; }, [this] { closeAll(); });
+    Script::instance().when(
+        "the main loop runs", [] { return true; }, [this] { closeAll(); });
     guiStart(nullptr);
 }
 

@@ -100,7 +100,8 @@ std::vector<Window> windowsAt(Point point)
         int x = 0;
         int y = 0;
         Window child = 0;
-        if (!XTranslateCoordinates(connection(), rootWindow(), window, point.x, point.y, &x, &y, &child))
+        if (!XTranslateCoordinates(connection(), rootWindow(), window, point.x, point.y, &x, &y,
+                                   &child))
             break;
         if (!child) break;
         path.push_back(child);

@@ -60,15 +60,15 @@ protected:
 }  // namespace kite::testing
 
 // The class of a test and its entry in the list of tests; the body follows.
-#define KITE_GUI_TEST_(suite, name, run)                                                    \
-    class suite##_##name##_Test : public ::kite::testing::GuiTest {                         \
-        void TestBody() override { run; }                                                   \
-        void body();                                                                        \
-        [[maybe_unused]] static ::testing::TestInfo* const info;                            \
-    };                                                                                      \
-    ::testing::TestInfo* const suite##_##name##_Test::info = ::testing::RegisterTest(       \
-        #suite, #name, nullptr, nullptr, __FILE__, __LINE__,                                \
-        []() -> ::kite::testing::GuiTest* { return new suite##_##name##_Test; });           \
+#define KITE_GUI_TEST_(suite, name, run)                                                           \
+    class suite##_##name##_Test : public ::kite::testing::GuiTest {                                \
+        void TestBody() override { run; }                                                          \
+        void body();                                                                               \
+        [[maybe_unused]] static ::testing::TestInfo* const info;                                   \
+    };                                                                                             \
+    ::testing::TestInfo* const suite##_##name##_Test::info = ::testing::RegisterTest(              \
+        #suite, #name, nullptr, nullptr, __FILE__, __LINE__,                                       \
+        []() -> ::kite::testing::GuiTest* { return new suite##_##name##_Test; });                  \
     void suite##_##name##_Test::body()
 
 #define GUI_TEST(suite, name) KITE_GUI_TEST_(suite, name, app.run([this] { body(); }))

@@ -42,7 +42,10 @@ public:
 
     const std::vector<ExecCall>& commands() const { return commands_; }
     void setExecResult(int result) { execResult_ = result; }
-    void onExec(std::function<int(const std::string& command)> action) { onExec_ = std::move(action); }
+    void onExec(std::function<int(const std::string& command)> action)
+    {
+        onExec_ = std::move(action);
+    }
 
     int exec(const std::string& command, int flag1, int flag2);
 

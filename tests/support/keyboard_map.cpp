@@ -30,8 +30,8 @@ Mapping readMapping()
     Mapping mapping;
     XDisplayKeycodes(connection(), &mapping.first, &mapping.last);
     const int count = mapping.last - mapping.first + 1;
-    mapping.symbols.reset(XGetKeyboardMapping(
-        connection(), static_cast<KeyCode>(mapping.first), count, &mapping.width));
+    mapping.symbols.reset(XGetKeyboardMapping(connection(), static_cast<KeyCode>(mapping.first),
+                                              count, &mapping.width));
     return mapping;
 }
 

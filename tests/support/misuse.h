@@ -34,8 +34,8 @@ void expectMisuse(const Call& call, const std::string& message, const Result& ex
 
 }  // namespace kite::testing
 
-#define EXPECT_MISUSE(call, ...)                                     \
-    do {                                                             \
-        SCOPED_TRACE("EXPECT_MISUSE(" #call ", " #__VA_ARGS__ ")"); \
-        ::kite::testing::expectMisuse([&] { return call; }, __VA_ARGS__); \
+#define EXPECT_MISUSE(call, ...)                                                                   \
+    do {                                                                                           \
+        SCOPED_TRACE("EXPECT_MISUSE(" #call ", " #__VA_ARGS__ ")");                                \
+        ::kite::testing::expectMisuse([&] { return call; }, __VA_ARGS__);                          \
     } while (false)

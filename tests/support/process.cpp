@@ -23,7 +23,8 @@ std::vector<std::string> mergedEnvironment(const Process::Environment& changes)
     for (char** entry = environ; *entry; ++entry) {
         const std::string variable = *entry;
         const std::string name = variable.substr(0, variable.find('='));
-        if (std::ranges::find(changes, name, &Process::Environment::value_type::first) == changes.end())
+        if (std::ranges::find(changes, name, &Process::Environment::value_type::first) ==
+            changes.end())
             merged.push_back(variable);
     }
     for (const auto& [name, value] : changes) merged.push_back(name + '=' + value);

@@ -40,7 +40,8 @@ void Profile::setInt(const std::string& key, int value, const std::string& secti
     integers_[{section, key}] = value;
 }
 
-void Profile::setString(const std::string& key, const std::string& value, const std::string& section)
+void Profile::setString(const std::string& key, const std::string& value,
+                        const std::string& section)
 {
     strings_[{section, key}] = value;
 }
@@ -56,7 +57,8 @@ std::optional<int> Profile::intOf(const std::string& key, const std::string& sec
     return find(integers_, section, key);
 }
 
-std::optional<std::string> Profile::stringOf(const std::string& key, const std::string& section) const
+std::optional<std::string> Profile::stringOf(const std::string& key,
+                                             const std::string& section) const
 {
     return find(strings_, section, key);
 }

@@ -21,7 +21,8 @@ struct ProfileAccess {
     Kind kind = Kind::ReadInt;
     std::string section;
     std::string key;
-    int number = 0;  // the default of a read, the value of a write, the buffer size of a string read
+    int number =
+        0;  // the default of a read, the value of a write, the buffer size of a string read
 
     bool operator==(const ProfileAccess&) const = default;
 };
@@ -32,7 +33,8 @@ class Profile {
 public:
     // In every section, unless a section is named.
     void setInt(const std::string& key, int value, const std::string& section = {});
-    void setString(const std::string& key, const std::string& value, const std::string& section = {});
+    void setString(const std::string& key, const std::string& value,
+                   const std::string& section = {});
     void remove(const std::string& key);
 
     // What is stored in a section, which is what the library wrote or else the test did.
@@ -49,7 +51,8 @@ public:
     // The services of the host, recorded.
     int readInt(const std::string& section, const std::string& key, int whenAbsent);
     void writeInt(const std::string& section, const std::string& key, int value);
-    std::optional<std::string> readString(const std::string& section, const std::string& key, int size);
+    std::optional<std::string> readString(const std::string& section, const std::string& key,
+                                          int size);
 
 private:
     using Name = std::pair<std::string, std::string>;  // section, key

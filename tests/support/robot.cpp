@@ -18,14 +18,15 @@ namespace kite::testing {
 
 namespace {
 
-constexpr int kDragSteps = 8;             // enough for every program to notice a drag
+constexpr int kDragSteps = 8;              // enough for every program to notice a drag
 constexpr milliseconds kReleaseTime{500};  // a release is lost when its window goes: no failure
 
 struct ModifierKey {
     unsigned modifier;
     KeySym symbol;
 };
-constexpr ModifierKey kModifierKeys[] = {{Shift, XK_Shift_L}, {Control, XK_Control_L}, {Alt, XK_Alt_L}};
+constexpr ModifierKey kModifierKeys[] = {
+    {Shift, XK_Shift_L}, {Control, XK_Control_L}, {Alt, XK_Alt_L}};
 
 void sync()
 {
@@ -83,7 +84,8 @@ Robot& Robot::instance()
 
 void Robot::moveTo(Point onScreen)
 {
-    XTestFakeMotionEvent(connection(), DefaultScreen(connection()), onScreen.x, onScreen.y, CurrentTime);
+    XTestFakeMotionEvent(connection(), DefaultScreen(connection()), onScreen.x, onScreen.y,
+                         CurrentTime);
     sync();
 }
 
@@ -163,7 +165,8 @@ void Robot::clickHandled(Widget widget, int times, unsigned button, std::optiona
     const int pressed = toolkit::received(ButtonPress) + times;
     const int released = toolkit::received(ButtonRelease) + times;
     clickTimes(times, button);
-    if (!pumpUntil([&] { return toolkit::received(ButtonPress) >= pressed || !isViewable(window); }))
+    if (!pumpUntil(
+            [&] { return toolkit::received(ButtonPress) >= pressed || !isViewable(window); }))
         ADD_FAILURE() << "The click on the " << name << " has not reached the application.";
     pumpUntil([&] { return toolkit::received(ButtonRelease) >= released || !isViewable(window); },
               kReleaseTime);

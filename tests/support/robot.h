@@ -22,7 +22,13 @@ namespace kite::testing {
 
 enum Modifier : unsigned { NoModifier = 0, Shift = 1, Control = 2, Alt = 4 };
 
-enum Button : unsigned { LeftButton = 1, MiddleButton = 2, RightButton = 3, WheelUp = 4, WheelDown = 5 };
+enum Button : unsigned {
+    LeftButton = 1,
+    MiddleButton = 2,
+    RightButton = 3,
+    WheelUp = 4,
+    WheelDown = 5
+};
 
 class Robot {
 public:

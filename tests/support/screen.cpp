@@ -59,7 +59,8 @@ public:
         if (found != known_.end()) return found->second;
         XColor colour{};
         colour.pixel = pixel;
-        XQueryColor(connection(), DefaultColormap(connection(), DefaultScreen(connection())), &colour);
+        XQueryColor(connection(), DefaultColormap(connection(), DefaultScreen(connection())),
+                    &colour);
         return known_[pixel] = toColour(colour);
     }
 
@@ -75,8 +76,8 @@ Picture grab(const Rect& wanted)
     const Rect rect = cutToScreen(wanted);
     if (rect.width == 0 || rect.height == 0) return {};
     const Image image{XGetImage(connection(), rootWindow(), rect.x, rect.y,
-                                static_cast<unsigned>(rect.width), static_cast<unsigned>(rect.height),
-                                AllPlanes, ZPixmap)};
+                                static_cast<unsigned>(rect.width),
+                                static_cast<unsigned>(rect.height), AllPlanes, ZPixmap)};
     if (!image) return {};
     Picture picture{rect.width, rect.height};
     PixelColours colours;
@@ -105,8 +106,8 @@ Colour colourAt(Point point)
 Colour colourNamed(const std::string& name)
 {
     XColor colour{};
-    XParseColor(connection(), DefaultColormap(connection(), DefaultScreen(connection())), name.c_str(),
-                &colour);
+    XParseColor(connection(), DefaultColormap(connection(), DefaultScreen(connection())),
+                name.c_str(), &colour);
     return toColour(colour);
 }
 
@@ -114,7 +115,8 @@ Colour colourOf(Widget widget, Pixel pixel)
 {
     XColor colour{};
     colour.pixel = pixel;
-    XQueryColor(XtDisplayOfObject(widget), resource<Colormap>(shellOf(widget), XmNcolormap), &colour);
+    XQueryColor(XtDisplayOfObject(widget), resource<Colormap>(shellOf(widget), XmNcolormap),
+                &colour);
     return toColour(colour);
 }
 

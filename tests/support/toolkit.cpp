@@ -37,7 +37,8 @@ void countEvents(Display* display)
 {
     for (const int type : kCountedTypes) {
         const XtEventDispatchProc previous = XtSetEventDispatcher(display, type, countAndDispatch);
-        if (previous != countAndDispatch) state.dispatchers[static_cast<std::size_t>(type)] = previous;
+        if (previous != countAndDispatch)
+            state.dispatchers[static_cast<std::size_t>(type)] = previous;
     }
 }
 

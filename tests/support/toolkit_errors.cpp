@@ -22,7 +22,8 @@ std::string errorText(Display* display, const XErrorEvent& error)
     char request[256] = "";
     XGetErrorText(display, error.error_code, meaning, sizeof meaning);
     const std::string number = std::to_string(error.request_code);
-    XGetErrorDatabaseText(display, "XRequest", number.c_str(), number.c_str(), request, sizeof request);
+    XGetErrorDatabaseText(display, "XRequest", number.c_str(), number.c_str(), request,
+                          sizeof request);
     return std::string{meaning} + ", request " + request + " (minor " +
            std::to_string(error.minor_code) + "), resource " + std::to_string(error.resourceid);
 }
@@ -69,8 +70,7 @@ void watchToolkitErrors(XtAppContext context)
     XtAppSetErrorHandler(context, fatalError);
 }
 
-ExpectedXError::ExpectedXError(int code)
-    : code_(code), outer_(std::exchange(expectedXError, this))
+ExpectedXError::ExpectedXError(int code) : code_(code), outer_(std::exchange(expectedXError, this))
 {
 }
 

@@ -57,7 +57,8 @@ void settleIn(const TemporaryDirectory& directory)
 {
     const std::string path = directory.path().string();
     for (const char* variable : {"HOME", "TMPDIR"}) setenv(variable, path.c_str(), 1);
-    for (const char* variable : {"XENVIRONMENT", "XAPPLRESDIR", "XUSERFILESEARCHPATH", "RESOURCE_NAME"})
+    for (const char* variable :
+         {"XENVIRONMENT", "XAPPLRESDIR", "XUSERFILESEARCHPATH", "RESOURCE_NAME"})
         unsetenv(variable);
     if (chdir(path.c_str()) != 0) std::perror(path.c_str());
 }

@@ -51,8 +51,8 @@ Rect rectOf(Widget widget);
 
 // Several lines are divided by '\n'.
 std::string toString(XmString string);
-std::string labelOf(Widget widget);    // XmNlabelString
-std::string messageOf(Widget box);     // the message, or the prompt of a selection box
+std::string labelOf(Widget widget);  // XmNlabelString
+std::string messageOf(Widget box);   // the message, or the prompt of a selection box
 std::string textOf(Widget textOrTextField);
 
 // Names, classes, places and labels, indented: for reports.

@@ -104,13 +104,16 @@ bool hasFocus(Client client)
 
 bool waitForFocus(Client client)
 {
+    if (kind() == Kind::NoManager && isViewable(client.window))
+        XSetInputFocus(connection(), client.window, RevertToPointerRoot, CurrentTime);
     return pumpUntil([&] { return hasFocus(client); });
 }
 
 Window frameOf(Client client)
 {
     Window window = client.window;
-    for (Window parent = parentOf(window); parent && parent != rootWindow(); parent = parentOf(window))
+    for (Window parent = parentOf(window); parent && parent != rootWindow();
+         parent = parentOf(window))
         window = parent;
     return window;
 }
@@ -211,7 +214,8 @@ void moveTo(Client client, Point frameCorner)
         return;
     }
     const Rect frame = frameRect(client);
-    Robot::instance().drag(*title, *title + Point{frameCorner.x - frame.x, frameCorner.y - frame.y});
+    Robot::instance().drag(*title,
+                           *title + Point{frameCorner.x - frame.x, frameCorner.y - frame.y});
 }
 
 Window waitForWindow(const std::string& title)

@@ -21,7 +21,7 @@ Kind kind();
 
 class Client {
 public:
-    Client(Widget widget);         // NOLINT: says what is meant
+    Client(Widget widget);           // NOLINT: says what is meant
     Client(Window w) : window(w) {}  // NOLINT
 
     Window window;
@@ -35,7 +35,8 @@ State stateOf(Client client);
 bool isSettled(Client client);
 bool waitUntilSettled(Client client);
 
-// True when keys that are pressed go to the window or one of its parts.
+// True when keys that are pressed go to the window or one of its parts. Without a window manager nobody
+// gives a new window the focus: waitForFocus does.
 bool hasFocus(Client client);
 bool waitForFocus(Client client);
 
