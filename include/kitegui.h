@@ -39,6 +39,10 @@
 #ifndef KITEGUI_H
 #define KITEGUI_H
 
+#ifdef __cplusplus
+#include <cstdio>
+#endif
+
 #if defined(__GNUC__)
 #define KITEGUI_API __attribute__((visibility("default")))
 #else
@@ -159,7 +163,7 @@ KITEGUI_API int guiSetAppInfo(const char *title, const char *name);
  *
  * When the display, the shell or the main window cannot be had, it prints "Cannot open display",
  * "Cannot create the application shell" or "Cannot create the main window" on standard output and
- * ends the process with status 1. A second call while a frame or its display is open does nothing.
+ * ends the process with status 1. A second call does nothing while the frame is open or guiStart runs.
  */
 KITEGUI_API void guiInit(GuiHandler callback);
 
@@ -221,7 +225,7 @@ KITEGUI_API extern int decorWindow;
  *
  *   handler  the main frame's window handler, or null to use the host callback
  *
- * Returns 0; -1 at once when there is no frame or a main loop runs already.
+ * Returns 0, at once when the frame was closed before; -1 before guiInit or when a main loop runs already.
  */
 KITEGUI_API int guiStart(GuiHandler handler);
 
@@ -401,9 +405,10 @@ public:
     void stop();
 
 private:
-    int wasWritten = 0;         /* the latest start or write could open the file, and no stop came since */
+    std::FILE *stream = nullptr;  /* non-null since the latest start or write could open the file,
+                                     until stop; closed between two calls */
     int endsWithBlankLine = 0;
-    char *path = nullptr;       /* owned copy */
+    char *path = nullptr;         /* owned copy */
 };
 #endif
 

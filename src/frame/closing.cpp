@@ -28,22 +28,24 @@ void saveGeometry(Widget shell)
     settings::saveGeometry({position.x, position.y, width, height});
 }
 
-// A dialog or box lives in a shell of its own below the window that it belongs to.
+// A dialog or box lives in a shell of its own below the window that it belongs to. A host's widget may
+// live anywhere else: then the frame is next.
 void closeDialog(Widget dialog)
 {
     Widget const shell = shellOf(dialog);
     Widget const parent = XtParent(shell);
     if (dialog != shell) XtUnmanageChild(dialog);
     XtDestroyWidget(shell);
-    setTopWindow(parent);
+    setTopWindow(parent && parent != widgets().shell ? parent : mainWindow());
 }
 
 void closeTopWindow()
 {
-    if (topWindow() == mainWindow())
+    Widget const top = topWindow();
+    if (mainWindow() && shellOf(top) == widgets().shell)
         close();
     else
-        closeDialog(topWindow());
+        closeDialog(top);
 }
 
 }  // namespace

@@ -50,6 +50,11 @@ void watchDecoration(Widget shell)
     XtAddEventHandler(shell, StructureNotifyMask, False, structureChanged, nullptr);
 }
 
+void forgetDecoration()
+{
+    decorWindow = kNoDecoration;
+}
+
 savedGeometry::Position decoratedPosition(Widget shell)
 {
     const Position position{resource<::Position>(shell, XmNx), resource<::Position>(shell, XmNy)};

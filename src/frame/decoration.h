@@ -11,6 +11,9 @@ namespace kite {
 // Notes the decoration whenever the window manager takes the shell into one.
 void watchDecoration(Widget shell);
 
+// The frame is gone, and its decoration with it.
+void forgetDecoration();
+
 // Where the shell stands with its decoration, when one is known, else where it stands.
 savedGeometry::Position decoratedPosition(Widget shell);
 

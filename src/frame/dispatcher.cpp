@@ -11,6 +11,8 @@ namespace kite {
 
 namespace {
 
+constexpr int kMostShowings = 16;  // for one event
+
 struct Event {
     int code, id, a, b;
 
@@ -21,6 +23,7 @@ struct {
     GuiHandler hostCallback = nullptr;                 // set once by guiInit
     dispatcher::FrameActions frame{nullptr, nullptr};  // set by guiInit
     bool started = false;         // set by guiStart and the first event, cleared by guiRestart
+    bool showing = false;         // raised and lowered by showFrameOnce
     bool suppressed = false;      // raised and lowered by EventsSuppressed
     bool inHostCallback = false;  // raised and lowered by callHost
 } state;
@@ -62,11 +65,17 @@ bool deliver(const Event& event)
     return true;
 }
 
+// A host that restarts the frame while event 0 builds it gets event 0 again, after this one and not
+// inside it; a host that does so every time gets it with the next event again.
 void showFrameOnce()
 {
-    if (state.started) return;
-    state.started = true;
-    if (state.frame.show) state.frame.show();
+    if (state.showing) return;
+    state.showing = true;
+    for (int showings = 0; !state.started && showings < kMostShowings; ++showings) {
+        state.started = true;
+        if (state.frame.show) state.frame.show();
+    }
+    state.showing = false;
 }
 
 void runDeferredStarts()

@@ -6,13 +6,16 @@
 #include <kitegui.h>
 
 #include <algorithm>
+#include <array>
 #include <string>
 
 #include "frame/app_info.h"
 #include "frame/dispatcher.h"
+#include "frame/hover.h"
 #include "frame/main_frame.h"
 #include "toolkit/compound_string.h"
 #include "toolkit/displayable_text.h"
+#include "toolkit/resources.h"
 
 namespace kite::frame {
 
@@ -41,15 +44,43 @@ void clearOutput(Widget text)
 
 void setStatusLine(Widget line, const char* text)
 {
-    const CompoundString label{orElse(text, " ")};
+    std::string oneLine{orElse(text, " ")};
+    std::replace(oneLine.begin(), oneLine.end(), '\n', ' ');  // there is room for one
+    const CompoundString label{oneLine.c_str()};
     XtVaSetValues(line, XmNlabelString, label.get(), nullptr);
 }
 
-// A negative argument keeps what the shell has.
-void setUnlessNegative(Widget shell, const char* name, int value)
+struct Placement {
+    char* resource;
+    int value;  // negative: as it is
+};
+
+// All at once: the window manager answers every change, and what it makes of one would be changed by
+// the next.
+void place(Widget shell, const std::array<Placement, 4>& placements)
 {
-    if (value >= 0)
-        XtVaSetValues(shell, const_cast<char*>(name), std::min(value, kLargestCoordinate), nullptr);
+    std::array<Arg, 5> arguments{};
+    Cardinal count = 0;
+    XtSetArg(arguments[count], XmNiconic, False);
+    ++count;
+    for (const Placement& placement : placements) {
+        if (placement.value < 0) continue;
+        XtSetArg(arguments[count], placement.resource,
+                 std::min(placement.value, kLargestCoordinate));
+        ++count;
+    }
+    XtSetValues(shell, arguments.data(), count);
+}
+
+// The toolkit sends nothing for a coordinate that the shell has already; but it is the decoration that
+// the window manager moves there, and the shell has stood further in.
+void moveDecorated(Widget shell, int x, int y)
+{
+    XWindowChanges place{};
+    place.x = std::min(x, kLargestCoordinate);
+    place.y = std::min(y, kLargestCoordinate);
+    const unsigned int given = (x >= 0 ? CWX : 0U) | (y >= 0 ? CWY : 0U);
+    XConfigureWindow(XtDisplay(shell), XtWindow(shell), given, &place);
 }
 
 }  // namespace
@@ -86,13 +117,14 @@ int guiMoveWin(int x, int y, int w, int h)
 {
     Widget const shell = frame::widgets().shell;
     if (!shell) return 0;
-    const bool isIcon = w == 0 || h == 0;
-    XtVaSetValues(shell, XmNiconic, isIcon, nullptr);
-    if (isIcon) return 0;
-    frame::setUnlessNegative(shell, XmNx, x);
-    frame::setUnlessNegative(shell, XmNy, y);
-    frame::setUnlessNegative(shell, XmNwidth, w);
-    frame::setUnlessNegative(shell, XmNheight, h);
+    if (w == 0 || h == 0) {
+        XtVaSetValues(shell, XmNiconic, True, nullptr);
+        return 0;
+    }
+    const bool isKnownX = x >= 0 && x == resource<Position>(shell, XmNx);
+    const bool isKnownY = y >= 0 && y == resource<Position>(shell, XmNy);
+    frame::place(shell, {{{XmNx, x}, {XmNy, y}, {XmNwidth, w}, {XmNheight, h}}});
+    if (isKnownX || isKnownY) frame::moveDecorated(shell, x, y);
     XtMapWidget(shell);
     return 0;
 }
@@ -101,6 +133,7 @@ int guiRestart(void)
 {
     dispatcher::setStarted(false);
     if (!frame::widgets().mainWindow) return 0;
+    hover::leave();  // the button that it belongs to goes
     frame::recreateToolbar();
     const frame::Widgets& widgets = frame::widgets();
     guiSetFrameTitle(nullptr);

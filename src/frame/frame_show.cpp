@@ -43,10 +43,11 @@ void show()
     const bool hasToolbar = hasToolbarButtons(widgets());
     if (!hasToolbar && widgets().toolbar) dropToolbar();
     const Widgets& frame = widgets();
-    XtManageChild(frame.menuBar);
-    if (hasToolbar) XtManageChild(frame.toolbar);
+    // Installed first: the main window gives no place to a toolbar that it does not know as one.
     XtVaSetValues(frame.mainWindow, XmNmenuBar, frame.menuBar, XmNcommandWindow, frame.toolbar,
                   nullptr);
+    XtManageChild(frame.menuBar);
+    if (hasToolbar) XtManageChild(frame.toolbar);
     if (hasToolbar) placeToolbar(frame);
     XmTextSetInsertionPosition(frame.text, XmTextGetLastPosition(frame.text));
     XFlush(XtDisplay(frame.text));

@@ -1,5 +1,7 @@
 #include "frame/frame_widgets.h"
 
+#include <X11/IntrinsicP.h>
+#include <X11/ShellP.h>
 #include <Xm/Form.h>
 #include <Xm/LabelG.h>
 #include <Xm/MainW.h>
@@ -72,9 +74,9 @@ Widget createGauge(Widget statusBar, Widget statusLine)
         "v_gauge", xmScaleWidgetClass, statusBar, XmNorientation, XmHORIZONTAL, XmNvalue, 0,
         XmNeditable, False, XmNtraversalOn, False, XmNslidingMode, XmTHERMOMETER, XmNsliderVisual,
         XmFOREGROUND_COLOR, XmNsliderMark, XmNONE, XmNleftAttachment, XmATTACH_WIDGET,
-        XmNleftWidget, statusLine, XmNrightAttachment, XmATTACH_FORM, XmNrightOffset,
-        kGaugeRightMargin, XmNtopAttachment, XmATTACH_FORM, XmNtopOffset, kGaugeMargin,
-        XmNbottomAttachment, XmATTACH_FORM, XmNbottomOffset, kGaugeMargin, nullptr);
+        XmNleftOffset, kGaugeMargin, XmNleftWidget, statusLine, XmNrightAttachment, XmATTACH_FORM,
+        XmNrightOffset, kGaugeRightMargin, XmNtopAttachment, XmATTACH_FORM, XmNtopOffset,
+        kGaugeMargin, XmNbottomAttachment, XmATTACH_FORM, XmNbottomOffset, kGaugeMargin, nullptr);
 }
 
 Pixmap createIcon()
@@ -87,13 +89,19 @@ Pixmap createIcon()
 
 }  // namespace
 
-Widget createShell(const settings::Geometry& geometry)
+Widget createShell(const settings::Geometry& geometry, bool isUsersPosition)
 {
-    return XtVaAppCreateShell(
+    Widget shell = XtVaAppCreateShell(
         appTitle(), kApplicationClass, applicationShellWidgetClass, session::display(), XmNtitle,
         appTitle(), XmNiconName, appTitle(), XmNiconPixmap, createIcon(), XmNx, geometry.x, XmNy,
         geometry.y, XmNwidth, geometry.width, XmNheight, geometry.height, XmNminWidth,
-        savedGeometry::kLeastWidth, XmNminHeight, savedGeometry::kLeastHeight, nullptr);
+        savedGeometry::kLeastWidth, XmNminHeight, savedGeometry::kLeastHeight, XmNbaseWidth, 0,
+        XmNbaseHeight, 0, nullptr);
+    // The user left the frame there: the same as a position given by hand. Window managers may ignore
+    // one that the program made up, and the corner of the screen above all.
+    if (shell && isUsersPosition)
+        reinterpret_cast<WMShellWidget>(shell)->wm.size_hints.flags |= USPosition;
+    return shell;
 }
 
 Widget createMainWindow(Widget shell)
@@ -104,7 +112,7 @@ Widget createMainWindow(Widget shell)
 Widget createToolbar(Widget mainWindow)
 {
     return XtVaCreateWidget("v_toolbar", xmFormWidgetClass, mainWindow, XmNheight, kToolbarHeight,
-                            nullptr);
+                            XmNresizePolicy, XmRESIZE_NONE, nullptr);
 }
 
 void createContents(Widgets& frame)

@@ -13,7 +13,7 @@ inline constexpr char kApplicationClass[] = "- not used -";
 inline constexpr int kToolbarHeight = 37;  // pixels
 
 // Null widgets mean that the toolkit could not make them.
-Widget createShell(const settings::Geometry& geometry);
+Widget createShell(const settings::Geometry& geometry, bool isUsersPosition);
 Widget createMainWindow(Widget shell);
 Widget createToolbar(Widget mainWindow);
 

@@ -8,19 +8,20 @@
 #include "frame/top_window.h"
 #include "toolkit/colours.h"
 #include "toolkit/compound_string.h"
+#include "toolkit/widget_ref.h"
 
 namespace kite::hover {
 
 namespace {
 
-constexpr char kTipName[] = "v_tooltip";
 constexpr int kBelowPointer = 20;  // pixels, clear of the pointer's own shape
 constexpr Colour kTipBackground{0xFFFF, 0xFFFF, 0xFFAA};
 
 struct {
     int delay = -1;          // set by setDelay
     XtIntervalId timer = 0;  // the one pending time-out, 0 when there is none
-    std::string tip;         // what it will show
+    std::string text;        // what it will show
+    WidgetRef tip;           // what it has shown, until the pointer leaves
 } state;
 
 struct Point {
@@ -42,14 +43,15 @@ Point pointerIn(Widget window)
 void showTip(Widget window)
 {
     const Point pointer = pointerIn(window);
-    const CompoundString text{state.tip.c_str()};
+    const CompoundString text{state.text.c_str()};
     Widget tip =
-        XtVaCreateWidget(kTipName, xmLabelWidgetClass, window, XmNx, pointer.x, XmNy,
+        XtVaCreateWidget("v_tooltip", xmLabelWidgetClass, window, XmNx, pointer.x, XmNy,
                          pointer.y + kBelowPointer, XmNborderWidth, 1, XmNbackground,
                          allocateColour(window, kTipBackground), XmNforeground, blackPixel(window),
                          XmNborderColor, blackPixel(window), XmNlabelString, text.get(), nullptr);
     XtRealizeWidget(tip);
     XMapRaised(XtDisplay(tip), XtWindow(tip));
+    state.tip.reset(tip);
 }
 
 void timedOut(XtPointer, XtIntervalId*)
@@ -69,8 +71,8 @@ void setDelay(int milliseconds)
 void enterWithTip(const char* tip)
 {
     if (state.delay < 0 || !session::application()) return;
-    cancel();
-    state.tip = tip;
+    leave();
+    state.text = tip;
     state.timer = XtAppAddTimeOut(session::application(), static_cast<unsigned long>(state.delay),
                                   timedOut, nullptr);
 }
@@ -78,9 +80,9 @@ void enterWithTip(const char* tip)
 void leave()
 {
     cancel();
-    Widget const window = topWindow();
-    Widget const tip = window && XtIsComposite(window) ? XtNameToWidget(window, kTipName) : nullptr;
-    if (tip) XtDestroyWidget(tip);
+    // It may belong to a window that is not the top window any more.
+    if (Widget const tip = state.tip.get()) XtDestroyWidget(tip);
+    state.tip.reset();
 }
 
 void cancel()

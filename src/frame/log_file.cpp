@@ -1,79 +1,45 @@
 #include "frame/log_file.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <sys/uio.h>
-#include <unistd.h>
-
 #include <array>
-#include <cerrno>
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
-#include <string>
-#include <string_view>
 
 namespace {
 
-// A file that is open for appending. System calls alone: a buffered stream would cost half as much
-// again for one short line, and a line that goes out in one call is never torn by another writer.
+// A file that is open for one call. Its buffer is here and not on the heap: opening the log for every
+// line then costs no more than the bare system calls.
 class OpenFile {
 public:
-    OpenFile(const char* path, int flags)
-        : descriptor_(path ? open(path, O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC | flags, 0666)
-                           : -1)
+    OpenFile(const char* path, const char* mode) : file_(path ? std::fopen(path, mode) : nullptr)
     {
+        if (file_) std::setvbuf(file_, buffer_.data(), _IOFBF, buffer_.size());
     }
     ~OpenFile()
     {
-        if (isOpen()) close(descriptor_);
+        // What a full disk does not take is lost; the log says nothing about itself.
+        if (file_) std::fclose(file_);
     }
     OpenFile(const OpenFile&) = delete;
     OpenFile& operator=(const OpenFile&) = delete;
 
-    bool isOpen() const { return descriptor_ >= 0; }
+    std::FILE* get() const { return file_; }
 
-    bool isEmpty() const
-    {
-        struct stat status {};
-        return fstat(descriptor_, &status) != 0 || status.st_size == 0;
-    }
-
-    // What a full disk does not take is lost; the log says nothing about itself.
-    void append(std::string_view text, std::string_view end = {}) const
-    {
-        while (!text.empty() || !end.empty()) {
-            const std::array<iovec, 2> pieces{piece(text), piece(end)};
-            const ssize_t count = writev(descriptor_, pieces.data(), pieces.size());
-            if (count < 0 && errno == EINTR) continue;
-            if (count <= 0) return;
-            const auto ofText = std::min(text.size(), static_cast<std::size_t>(count));
-            text.remove_prefix(ofText);
-            end.remove_prefix(static_cast<std::size_t>(count) - ofText);
-        }
-    }
+    bool isEmpty() const { return std::fseek(file_, 0, SEEK_END) != 0 || std::ftell(file_) <= 0; }
 
 private:
-    static iovec piece(std::string_view bytes)
-    {
-        return {const_cast<char*>(bytes.data()), bytes.size()};
-    }
-
-    int descriptor_;
+    std::FILE* file_;
+    std::array<char, 4096> buffer_;
 };
 
 // One of the two framing lines, with the local date and time.
-std::string stampedLine(const char* what)
+void writeStamp(std::FILE* file, const char* what)
 {
     const std::time_t now = std::time(nullptr);
     std::tm local{};
     localtime_r(&now, &local);
-    std::array<char, 96> line{};
-    std::snprintf(line.data(), line.size(), ">>>%s: %04d.%02d.%02d %02d:%02d:%02d\n", what,
-                  local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour,
-                  local.tm_min, local.tm_sec);
-    return line.data();
+    std::fprintf(file, ">>>%s: %04d.%02d.%02d %02d:%02d:%02d\n", what, local.tm_year + 1900,
+                 local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min, local.tm_sec);
 }
 
 }  // namespace
@@ -92,38 +58,41 @@ LogFile::~LogFile()
 
 void LogFile::start(const char* newPath, int truncate)
 {
-    if (wasWritten) stop();
+    if (stream) stop();
     if (!newPath || !*newPath) return;
     char* const copy = strdup(newPath);  // before the old one goes: it may be the same string
     if (!copy) return;
     std::free(path);
     path = copy;
 
-    const OpenFile file{path, truncate ? O_TRUNC : 0};
-    wasWritten = file.isOpen();
-    if (!wasWritten) return;  // the path stays: every write tries again
-    const std::string gap = file.isEmpty() ? "" : "\n";
-    file.append(gap + stampedLine("LogStarted") + "\n");
+    const OpenFile file{path, truncate ? "w" : "a"};
+    stream = file.get();
+    if (!stream) return;  // the path stays: every write tries again
+    if (!file.isEmpty()) std::fputc('\n', stream);
+    writeStamp(stream, "LogStarted");
+    std::fputc('\n', stream);
     endsWithBlankLine = 1;
 }
 
 void LogFile::write(const char* text, int asLine)
 {
     if (!text) return;
-    const OpenFile file{path, 0};
-    wasWritten = file.isOpen();
-    if (!wasWritten) return;
-    file.append(text, asLine ? "\n" : "");
+    const OpenFile file{path, "a"};
+    stream = file.get();
+    if (!stream) return;
+    std::fputs(text, stream);
+    if (!asLine) return;
     // A text that is not a line leaves the flag alone: right after start() the stop line then follows
     // on the text's own line, and readers of the log rely on nothing being put in between.
-    if (asLine) endsWithBlankLine = *text ? 0 : 1;
+    std::fputc('\n', stream);
+    endsWithBlankLine = *text ? 0 : 1;
 }
 
 void LogFile::stop()
 {
-    wasWritten = 0;
-    const OpenFile file{path, 0};
-    if (!file.isOpen()) return;
-    const std::string gap = endsWithBlankLine ? "" : "\n";
-    file.append(gap + stampedLine("LogStopped"));
+    stream = nullptr;
+    const OpenFile file{path, "a"};
+    if (!file.get()) return;
+    if (!endsWithBlankLine) std::fputc('\n', file.get());
+    writeStamp(file.get(), "LogStopped");
 }

@@ -14,6 +14,7 @@
 #include "frame/frame_widgets.h"
 #include "frame/hover.h"
 #include "frame/log_file.h"
+#include "frame/main_loop.h"
 #include "frame/saved_geometry.h"
 #include "frame/session.h"
 #include "frame/top_window.h"
@@ -73,8 +74,9 @@ void closeUnhandled()
 
 void build()
 {
-    const auto geometry = savedGeometry::toOpenWith(settings::savedGeometry(), screenSize());
-    frame.shell = createShell(geometry);
+    const auto saved = settings::savedGeometry();
+    const auto geometry = savedGeometry::toOpenWith(saved, screenSize());
+    frame.shell = createShell(geometry, geometry == saved);
     if (!frame.shell) failAtStart("Cannot create the application shell");
     frame.mainWindow = createMainWindow(frame.shell);
     if (!frame.mainWindow) failAtStart("Cannot create the main window");
@@ -131,5 +133,7 @@ void start(GuiHandler callback)
 
 void guiInit(GuiHandler callback)
 {
-    if (!kite::session::isOpen()) kite::frame::start(callback);
+    if (kite::mainWindow() || kite::isLoopRunning()) return;
+    if (kite::session::isOpen()) kite::endSession();  // of a frame that was closed without a loop
+    kite::frame::start(callback);
 }

@@ -1,8 +1,9 @@
-// main_loop.cpp: the loop that runs the frame until it is closed.
+#include "frame/main_loop.h"
 
 #include <Xm/Xm.h>
 #include <kitegui.h>
 
+#include "frame/decoration.h"
 #include "frame/dispatcher.h"
 #include "frame/frame_fonts.h"
 #include "frame/hover.h"
@@ -27,24 +28,30 @@ void runUntilClosed(GuiHandler handler)
     if (mainWindow()) processEventsWhile(anyWidget, [] { return mainWindow() != nullptr; });
 }
 
+}  // namespace
+
+bool isLoopRunning()
+{
+    return isRunning;
+}
+
 void endSession()
 {
     hover::cancel();
     periodicTimer::stop();
     frameFonts::release();
+    forgetDecoration();
     dispatcher::setStarted(false);
     session::close();
 }
-
-}  // namespace
 
 }  // namespace kite
 
 int guiStart(GuiHandler handler)
 {
-    if (!kite::mainWindow() || kite::isRunning) return GUI_FAILED;
+    if (!kite::session::isOpen() || kite::isRunning) return GUI_FAILED;
     kite::isRunning = true;
-    kite::runUntilClosed(handler);
+    if (kite::mainWindow()) kite::runUntilClosed(handler);  // else it was closed before it ran
     kite::endSession();
     kite::isRunning = false;
     return 0;

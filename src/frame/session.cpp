@@ -1,5 +1,8 @@
 #include "frame/session.h"
 
+#include <algorithm>
+#include <vector>
+
 #include "toolkit/widget_ref.h"
 
 namespace kite::session {
@@ -16,6 +19,23 @@ struct {
 } state;
 
 void ignoreWarning(String) {}
+
+// The toolkit keeps notes by a display's address, also of closed ones: a new connection at the address
+// of an old one would find them and fail. Connections that come up at such an address are held until
+// there is one at another.
+Display* openAtNewAddress()
+{
+    static std::vector<Display*> used;
+    std::vector<Display*> held;
+    Display* display = XOpenDisplay(nullptr);
+    while (display && std::find(used.begin(), used.end(), display) != used.end()) {
+        held.push_back(display);
+        display = XOpenDisplay(nullptr);
+    }
+    for (Display* const old : held) XCloseDisplay(old);
+    if (display) used.push_back(display);
+    return display;
+}
 
 void applyWarningPolicy()
 {
@@ -37,9 +57,11 @@ bool open(const char* applicationName, const char* applicationClass)
     char program[] = "vex";
     char* arguments[] = {program, nullptr};
     int count = 1;
-    state.display = XtOpenDisplay(state.application, nullptr, applicationName, applicationClass,
-                                  nullptr, 0, &count, arguments);
-    return state.display != nullptr;
+    state.display = openAtNewAddress();
+    if (!state.display) return false;
+    XtDisplayInitialize(state.application, state.display, applicationName, applicationClass,
+                        nullptr, 0, &count, arguments);
+    return true;
 }
 
 void close()

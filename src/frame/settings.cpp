@@ -3,6 +3,7 @@
 #include <clocale>
 #include <cmath>
 #include <cstdlib>
+#include <cstring>
 #include <vector>
 
 #include "frame/app_info.h"
@@ -21,6 +22,7 @@ struct StringKey {
     const char* name;
     int size;  // bytes that the host may write, with the terminating null
     const char* byDefault;
+    const char* before = "";  // what the buffer holds when the host gets it
 };
 
 constexpr char kHelvetica[] = "-adobe-helvetica-medium-r-normal--14-100-100-100-p-*-iso8859-1";
@@ -29,7 +31,7 @@ constexpr char kFixed[] = "-misc-fixed-medium-r-normal--14-110-100-100-c-*-iso88
 // Every key that the profile may hold.
 constexpr IntKey kStartupHook{"spsec", 0};
 constexpr IntKey kLogMode{"logfm", 0};
-constexpr StringKey kLogFileName{"logfn", 1024, "output.log"};
+constexpr StringKey kLogFileName{"logfn", 1024, "output.log", "output.log"};
 constexpr IntKey kFrameX{"mwndx", -1};
 constexpr IntKey kFrameY{"mwndy", -1};
 constexpr IntKey kFrameWidth{"mwndw", -1};
@@ -57,6 +59,7 @@ void write(const IntKey& key, int value)
 std::string read(const StringKey& key)
 {
     std::vector<char> buffer(static_cast<std::size_t>(key.size), '\0');
+    std::strcpy(buffer.data(), key.before);
     kxGetUPStr(appName(), key.name, buffer.data(), key.size);
     buffer.back() = '\0';
     return buffer.front() ? buffer.data() : key.byDefault;

@@ -15,6 +15,8 @@ int dropDownHeight();  // "ch_height": eighths
 
 struct Geometry {
     int x, y, width, height;  // pixels; -1 stands for "not saved"
+
+    bool operator==(const Geometry&) const = default;
 };
 
 Geometry savedGeometry();  // "mwndx", "mwndy", "mwndw", "mwndh"

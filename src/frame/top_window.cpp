@@ -41,8 +41,9 @@ void setTopWindow(Widget window)
 
 Widget boxParent()
 {
-    Widget const top = topWindow();
-    return top ? top : session::owner();
+    Widget parent = topWindow();
+    while (parent && !XtIsWidget(parent)) parent = XtParent(parent);  // a gadget has no children
+    return parent ? parent : session::owner();
 }
 
 TopWindowScope::TopWindowScope(Widget window)

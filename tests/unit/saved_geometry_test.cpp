@@ -41,12 +41,6 @@ constexpr Row kRows[] = {
     {"the smallest ints", {INT_MIN, INT_MIN, INT_MIN, INT_MIN}, false},
 };
 
-bool operator==(const Geometry& one, const Geometry& other)
-{
-    return one.x == other.x && one.y == other.y && one.width == other.width &&
-           one.height == other.height;
-}
-
 }  // namespace
 
 TEST(SavedGeometry, IsKeptOrDroppedAsAWhole)
