@@ -24,7 +24,8 @@
  *     event loop; a handler may call anything here, also functions that wait for the user.
  *   - Order: guiSetAppInfo (optional), guiInit, guiStart. A call that needs the frame and comes
  *     before guiInit, or after the frame was closed, does nothing and returns its failure value.
- *   - Strings: null-terminated bytes in the encoding of the fonts in use (ISO 8859-1 by default).
+ *   - Strings: null-terminated bytes in the encoding of the fonts in use (ISO 8859-1 by default). A
+ *     host that calls setlocale gets that locale's encoding in text fields, as in all of Motif.
  *     The library copies what it keeps. A null pointer is safe wherever a string is taken; each
  *     function says what it means.
  *   - Buffers: (char *buffer, int size) receive at most size - 1 bytes and are always terminated.

@@ -64,10 +64,12 @@ void ModalBox::finishButtons(ButtonWidth width, const std::vector<Widget>& butto
     const bool isTriple = width == ButtonWidth::TripleOk;
     const auto natural = resource<Dimension>(
         child(isTriple ? XmDIALOG_OK_BUTTON : XmDIALOG_CANCEL_BUTTON), XmNwidth);
-    for (Widget const button : buttons)
-        XtVaSetValues(button, XmNrecomputeSize, False, XmNwidth, isTriple ? natural * 3 : natural,
-                      XmNshadowThickness, 2, XmNhighlightThickness, 1,
-                      XmNdefaultButtonShadowThickness, 0, XmNshowAsDefault, 0, nullptr);
+    for (Widget const button : buttons) {
+        XtVaSetValues(button, XmNrecomputeSize, False, XmNshadowThickness, 2, XmNhighlightThickness,
+                      1, XmNdefaultButtonShadowThickness, 0, XmNshowAsDefault, 0, nullptr);
+        // On its own: in one call the toolkit takes what the borders have lost off the new width.
+        XtVaSetValues(button, XmNwidth, isTriple ? natural * 3 : natural, nullptr);
+    }
 }
 
 ModalBox::Answer* ModalBox::newAnswer(int value)

@@ -8,6 +8,7 @@
 #include "toolkit/colours.h"
 #include "toolkit/compound_string.h"
 #include "toolkit/nested_loop.h"
+#include "toolkit/never_destroyed.h"
 #include "toolkit/widget_ref.h"
 
 namespace kite {
@@ -23,11 +24,12 @@ struct Point {
     bool operator==(const Point&) const = default;
 };
 
-struct {
+struct State {
     int result = 0;   // GUI_TIP_TAKEN_DOWN while a note waits; shared by notes within notes
     Point shownAt{};  // where the pointer was, on the screen
     WidgetRef note;   // the latest note; stays until the next one is made
-} state;
+};
+State& state = neverDestroyed<State>();
 
 void happened(Widget, XtPointer, XEvent* event, Boolean*)
 {
@@ -87,6 +89,13 @@ void replaceNote(Widget note)
     state.note.reset(note);
 }
 
+// The latest note is kept; one that had another shown within it is not needed any more.
+void takeDown(Widget note)
+{
+    XtUnmanageChild(note);
+    if (note != state.note.get()) XtDestroyWidget(XtParent(note));
+}
+
 int waitForUser(Widget note)
 {
     const WidgetRef waiting{note};
@@ -95,7 +104,7 @@ int waitForUser(Widget note)
     processEventsWhile(note, [&] {
         return state.result == GUI_TIP_TAKEN_DOWN && waiting && XtIsManaged(waiting.get());
     });
-    if (waiting) XtUnmanageChild(waiting.get());
+    if (waiting) takeDown(waiting.get());
     const int result = state.result;
     state.result = 0;
     return result;

@@ -41,6 +41,8 @@ void nameArrived(Widget, XtPointer, XtPointer callData)
 void dropped(Widget text, XtPointer, XtPointer callData)
 {
     const auto* destination = static_cast<XmDestinationCallbackStruct*>(callData);
+    // The text's own selection is no file name, and a request that it refuses would end the transfer.
+    if (destination->flags & XmCONVERTING_SAME) return;
     XmTransferValue(destination->transfer_id, fileNameTarget(text), nameArrived, nullptr,
                     XtLastTimestampProcessed(XtDisplay(text)));
 }

@@ -2,17 +2,19 @@
 
 #include "frame/settings.h"
 #include "toolkit/font_list.h"
+#include "toolkit/never_destroyed.h"
 
 namespace kite::frameFonts {
 
 namespace {
 
 // Filled by load(), emptied by release().
-struct {
+struct Fonts {
     FontList statusLine;
     FontList menuBar;
     FontList output;
-} fonts;
+};
+Fonts& fonts = neverDestroyed<Fonts>();
 
 }  // namespace
 

@@ -8,6 +8,7 @@
 #include "frame/top_window.h"
 #include "toolkit/colours.h"
 #include "toolkit/compound_string.h"
+#include "toolkit/never_destroyed.h"
 #include "toolkit/widget_ref.h"
 
 namespace kite::hover {
@@ -17,12 +18,13 @@ namespace {
 constexpr int kBelowPointer = 20;  // pixels, clear of the pointer's own shape
 constexpr Colour kTipBackground{0xFFFF, 0xFFFF, 0xFFAA};
 
-struct {
+struct State {
     int delay = -1;          // set by setDelay
     XtIntervalId timer = 0;  // the one pending time-out, 0 when there is none
     std::string text;        // what it will show
     WidgetRef tip;           // what it has shown, until the pointer leaves
-} state;
+};
+State& state = neverDestroyed<State>();
 
 struct Point {
     int x, y;

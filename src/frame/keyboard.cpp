@@ -1,5 +1,6 @@
 #include "frame/keyboard.h"
 
+#include <X11/Xutil.h>
 #include <kitegui.h>
 
 #include "frame/dispatcher.h"
@@ -12,18 +13,28 @@ namespace kite {
 
 namespace {
 
+// With Control and Alt the keyboard mapping makes other symbols of the function keys, which switch
+// consoles; the key is the same.
+int functionKeyOf(XKeyEvent* press)
+{
+    const int number = functionKeyNumber(keySymbolOf(press));
+    return number ? number : functionKeyNumber(XLookupKeysym(press, 0));
+}
+
 void keyPressed(Widget, XtPointer, XEvent* event, Boolean*)
 {
     // Whatever modifiers are held: Shift+F1 is F1 here.
-    const int number = functionKeyNumber(keySymbolOf(&event->xkey));
+    const int number = functionKeyOf(&event->xkey);
     if (number == 0) return;
     hover::cancel();
     raise(GUI_EVENT_COMMAND, -number);
 }
 
+constexpr int kBreakKey = 10;  // F10, with Control
+
 bool isUserBreak(XKeyEvent* press)
 {
-    return (press->state & ControlMask) && functionKeyNumber(keySymbolOf(press)) == 10;
+    return (press->state & ControlMask) && functionKeyOf(press) == kBreakKey;
 }
 
 }  // namespace

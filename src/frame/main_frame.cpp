@@ -60,9 +60,10 @@ void closeRequested(Widget, XtPointer, XtPointer)
         guiBeep();
 }
 
-void mainWindowDestroyed(Widget, XtPointer, XtPointer)
+// Xt may come to it late, when the host has built the next frame.
+void mainWindowDestroyed(Widget mainWindow, XtPointer, XtPointer)
 {
-    frame = {};
+    if (frame.mainWindow == mainWindow) frame = {};
 }
 
 // A host without any handler can still be closed.
@@ -123,7 +124,11 @@ void start(GuiHandler callback)
 {
     dispatcher::setHostCallback(callback);
     dispatcher::setFrameActions({show, closeUnhandled});
-    if (!session::open(appTitle(), kApplicationClass)) failAtStart("Cannot open display");
+    dispatcher::setStarted(false);
+    // The session of a frame that a host with an event loop of its own has closed goes on: that loop
+    // may be running right now.
+    if (!session::isOpen() && !session::open(appTitle(), kApplicationClass))
+        failAtStart("Cannot open display");
     if (settings::startupHook() > 0) runStartupHook();
     startLog();
     build();
@@ -134,6 +139,5 @@ void start(GuiHandler callback)
 void guiInit(GuiHandler callback)
 {
     if (kite::mainWindow() || kite::isLoopRunning()) return;
-    if (kite::session::isOpen()) kite::endSession();  // of a frame that was closed without a loop
     kite::frame::start(callback);
 }

@@ -28,13 +28,7 @@ void runUntilClosed(GuiHandler handler)
     if (mainWindow()) processEventsWhile(anyWidget, [] { return mainWindow() != nullptr; });
 }
 
-}  // namespace
-
-bool isLoopRunning()
-{
-    return isRunning;
-}
-
+// Closes the display, with everything of the frame that outlived its window.
 void endSession()
 {
     hover::cancel();
@@ -43,6 +37,13 @@ void endSession()
     forgetDecoration();
     dispatcher::setStarted(false);
     session::close();
+}
+
+}  // namespace
+
+bool isLoopRunning()
+{
+    return isRunning;
 }
 
 }  // namespace kite

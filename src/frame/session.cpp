@@ -3,20 +3,22 @@
 #include <algorithm>
 #include <vector>
 
+#include "toolkit/never_destroyed.h"
 #include "toolkit/widget_ref.h"
 
 namespace kite::session {
 
 namespace {
 
-struct {
+struct State {
     XtAppContext application = nullptr;  // ours (open, close) or the owner's (setOwner)
     Display* display = nullptr;          // the same
     XtAppContext opened = nullptr;       // ours, from open() to close()
     WidgetRef owner;                     // set by setOwner
     int generation = 0;                  // raised by open() and setOwner()
     bool dropsWarnings = false;          // set by dropToolkitWarnings, for contexts still to come
-} state;
+};
+State& state = neverDestroyed<State>();
 
 void ignoreWarning(String) {}
 

@@ -3,16 +3,18 @@
 #include <kitegui.h>
 
 #include "frame/session.h"
+#include "toolkit/never_destroyed.h"
 
 namespace kite {
 
 namespace {
 
-struct {
+struct State {
     WidgetRef main;       // set when the frame is built, empty once it is closed
     WidgetRef top;        // set by dialogs, boxes and the host
     bool hasTop = false;  // false: the host or closing said that there is none
-} state;
+};
+State& state = neverDestroyed<State>();
 
 }  // namespace
 
