@@ -1,6 +1,5 @@
 #include "frame/keyboard.h"
 
-#include <X11/Xutil.h>
 #include <kitegui.h>
 
 #include "frame/dispatcher.h"
@@ -13,18 +12,11 @@ namespace kite {
 
 namespace {
 
-// With Control and Alt the keyboard mapping makes other symbols of the function keys, which switch
-// consoles; the key is the same.
-int functionKeyOf(XKeyEvent* press)
-{
-    const int number = functionKeyNumber(keySymbolOf(press));
-    return number ? number : functionKeyNumber(XLookupKeysym(press, 0));
-}
-
 void keyPressed(Widget, XtPointer, XEvent* event, Boolean*)
 {
-    // Whatever modifiers are held: Shift+F1 is F1 here.
-    const int number = functionKeyOf(&event->xkey);
+    // Whatever modifiers are held: Shift+F1 is F1 here. (Control and Alt with a function key switch
+    // consoles; the server keeps those to itself.)
+    const int number = functionKeyNumber(keySymbolOf(&event->xkey));
     if (number == 0) return;
     hover::cancel();
     raise(GUI_EVENT_COMMAND, -number);
@@ -34,7 +26,7 @@ constexpr int kBreakKey = 10;  // F10, with Control
 
 bool isUserBreak(XKeyEvent* press)
 {
-    return (press->state & ControlMask) && functionKeyOf(press) == kBreakKey;
+    return (press->state & ControlMask) && functionKeyNumber(keySymbolOf(press)) == kBreakKey;
 }
 
 }  // namespace

@@ -37,7 +37,7 @@ function(kite_gui_tests)
     endif()
     gtest_discover_tests(${TEST_NAME}
       TEST_PREFIX "${prefix}." TEST_SUFFIX "${suffix}" TEST_LIST ${TEST_NAME}_${manager}
-      EXTRA_ARGS --wm=${manager} ${arguments}
+      NO_PRETTY_VALUES EXTRA_ARGS --wm=${manager} ${arguments}
       PROPERTIES TIMEOUT ${limit} LABELS gui)
   endforeach()
 endfunction()

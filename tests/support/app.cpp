@@ -53,6 +53,7 @@ int App::run(const std::function<void()>& body)
         [&] {
             hasRun = true;
             body();
+            Script::instance().finish();  // before the frame goes: a failure shows it
             closeAll();
         });
     const int result = guiStart(windowHandler);

@@ -4,6 +4,7 @@
 
 #include <thread>
 
+#include "last_words.h"
 #include "toolkit.h"
 
 namespace kite::testing {
@@ -17,6 +18,7 @@ constexpr int kMostRounds = 1000;  // of events that cause events: more than any
 
 void processOrDoze()
 {
+    speakLastWordsIfAsked();
     XtAppContext const context = toolkit::context();
     if (context && XtAppPending(context))
         XtAppProcessEvent(context, XtIMAll);

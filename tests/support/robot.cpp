@@ -69,6 +69,13 @@ bool isUncovered(Widget widget, Point point)
     return std::ranges::count(windowsAt(point), windowOf(widget)) > 0;
 }
 
+bool isOurs(Point point)
+{
+    const std::vector<Window> windows = windowsAt(point);
+    Display* const display = toolkit::display();
+    return display && !windows.empty() && XtWindowToWidget(display, windows.back());
+}
+
 std::string describe(Widget widget)
 {
     return std::string{"widget \""} + XtName(widget) + "\"";
@@ -190,15 +197,22 @@ void Robot::wheel(Widget widget, int notches)
 
 void Robot::drag(Point from, Point to, unsigned button)
 {
+    const int pressed = toolkit::received(ButtonPress);
+    const int released = toolkit::received(ButtonRelease);
     moveTo(from);
+    const bool isInOurs = isOurs(from);
     press(button);
-    settle();
+    if (isInOurs && !pumpUntil([&] { return toolkit::received(ButtonPress) > pressed; }))
+        ADD_FAILURE() << "The press at " << from << " has not reached the application.";
     for (int step = 1; step <= kDragSteps; ++step) {
         moveTo({from.x + (to.x - from.x) * step / kDragSteps,
                 from.y + (to.y - from.y) * step / kDragSteps});
         settle();
     }
     release(button);
+    // A drag and drop takes the mouse away from the application: its release comes to somebody else.
+    if (isInOurs)
+        pumpUntil([&] { return toolkit::received(ButtonRelease) > released; }, kReleaseTime);
     settle();
 }
 

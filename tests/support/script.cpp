@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "connection.h"
+#include "last_words.h"
 #include "toolkit.h"
 #include "widgets.h"
 #include "window_manager.h"
@@ -93,6 +94,7 @@ void Script::arm()
 
 void Script::look(XtPointer self, XtIntervalId*)
 {
+    speakLastWordsIfAsked();
     auto& script = *static_cast<Script*>(self);
     // Before anything runs: an action may wait in a loop of its own, where others are due.
     XtAppContext const context = toolkit::context();

@@ -1,6 +1,5 @@
 #include "watchdog.h"
 
-#include <execinfo.h>
 #include <poll.h>
 #include <signal.h>
 #include <sys/prctl.h>
@@ -8,32 +7,20 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <array>
 #include <cstdlib>
 #include <cstring>
 #include <iostream>
 #include <string>
 
 #include "artefacts.h"
+#include "last_words.h"
 #include "temporary_directory.h"
 
 namespace kite::testing {
 
 namespace {
 
-constexpr int kTellState = SIGUSR2;
-constexpr seconds kTimeToTell{3};
-constexpr int kDeepestStack = 100;
-
-// Only for a dying test: nothing here is safe in a signal handler, most of it works.
-void tellState(int)
-{
-    std::array<void*, kDeepestStack> frames{};
-    const int count = backtrace(frames.data(), kDeepestStack);
-    backtrace_symbols_fd(frames.data(), count, STDERR_FILENO);
-    artefacts::saveWidgets();
-    _exit(EXIT_FAILURE);
-}
+constexpr seconds kTimeForLastWords{2};
 
 bool endsWithin(pid_t child, milliseconds time)
 {
@@ -66,7 +53,7 @@ void settleIn(const TemporaryDirectory& directory)
 [[noreturn]] void runChild(const std::function<int()>& test)
 {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
-    signal(kTellState, tellState);
+    prepareLastWords();
     std::exit(test());
 }
 
@@ -74,8 +61,11 @@ void endHanging(pid_t child, seconds deadline)
 {
     std::cout << "[ WATCHDOG ] the test still runs after " << deadline.count() << " s" << std::endl;
     artefacts::saveScreen();
-    kill(child, kTellState);
-    if (!endsWithin(child, kTimeToTell)) kill(child, SIGKILL);
+    for (int asked = 0; asked < 2; ++asked) {
+        kill(child, kLastWordsSignal);
+        if (endsWithin(child, kTimeForLastWords)) return;
+    }
+    kill(child, SIGKILL);
 }
 
 int report(int status)

@@ -1,8 +1,7 @@
 // watchdog.h: runs a test in a child process and sees to its end.
 //
 // A test that hangs, or that dies of a signal, fails with a picture of the screen, which this process
-// takes over a connection of its own. A hanging one is first asked for its widget tree and stack: it
-// prints them from a signal handler, wherever it was, so they may be missing or odd.
+// takes over a connection of its own. A hanging one is first asked for its last words.
 
 #pragma once
 

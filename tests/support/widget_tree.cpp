@@ -17,13 +17,15 @@ std::string oneLine(std::string text)
     return text;
 }
 
+// Asks nothing of the server: a test that hangs may be in the middle of a request.
 void printWidget(std::ostream& out, Widget widget)
 {
     const RectObjPart& rect = reinterpret_cast<RectObj>(widget)->rectangle;
     out << XtName(widget) << "  " << XtClass(widget)->core_class.class_name << "  "
         << Rect{rect.x, rect.y, rect.width, rect.height};
     if (XtIsRealized(widget)) out << "  window 0x" << std::hex << windowOf(widget) << std::dec;
-    out << (isShown(widget) ? "" : "  not shown") << (XtIsSensitive(widget) ? "" : "  insensitive");
+    if (!XtIsShell(widget) && !XtIsManaged(widget)) out << "  not managed";
+    if (!XtIsSensitive(widget)) out << "  insensitive";
     for (const std::string& text : {labelOf(widget), messageOf(widget), textOf(widget)})
         if (!text.empty()) out << "  \"" << oneLine(text) << '"';
 }

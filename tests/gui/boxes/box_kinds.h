@@ -20,10 +20,10 @@ struct BoxKind {
 
     std::string call;
     std::string widget;
-    unsigned char type;                          // XmNdialogType
+    unsigned char type;                                   // XmNdialogType
     Widget (*create)(Widget, String, ArgList, Cardinal);  // the toolkit's bare box of the kind
-    std::function<int(const char* text)> ask;    // 0 from those that answer nothing
-    std::vector<Choice> choices;                 // from left to right
+    std::function<int(const char* text)> ask;             // 0 from those that answer nothing
+    std::vector<Choice> choices;                          // from left to right
     int whenClosed;
     int whenNotCreated;
     Width width;

@@ -70,7 +70,8 @@ GUI_STARTUP_TEST(BoxFont, IsTheToolkitsWhenThereIsNone)
             whileShown(kind, [&](Shown box) {
                 for (Widget const part : buttonsOf(box.widget()))
                     EXPECT_EQ(fontOf(part), fontOf(bare.part(XmDIALOG_OK_BUTTON)));
-                EXPECT_EQ(fontOf(messageLabelOf(box.widget())), fontOf(messageLabelOf(bare.widget())));
+                EXPECT_EQ(fontOf(messageLabelOf(box.widget())),
+                          fontOf(messageLabelOf(bare.widget())));
             });
         }
     });

@@ -27,7 +27,8 @@ int lineCount(Widget label)
 void expectShown(const std::string& text)
 {
     for (const BoxKind& kind : allBoxes())
-        whileShown(kind, [&](Shown box) { EXPECT_EQ(box.message(), text); }, text.c_str());
+        whileShown(
+            kind, [&](Shown box) { EXPECT_EQ(box.message(), text); }, text.c_str());
 }
 
 }  // namespace
@@ -45,7 +46,8 @@ GUI_TEST(BoxMessage, MayBeEmpty)
 GUI_TEST(BoxMessage, IsEmptyForNull)
 {
     for (const BoxKind& kind : allBoxes())
-        whileShown(kind, [](Shown box) { EXPECT_EQ(box.message(), ""); }, nullptr);
+        whileShown(
+            kind, [](Shown box) { EXPECT_EQ(box.message(), ""); }, nullptr);
 }
 
 GUI_TEST(BoxMessage, IsNoFormat)

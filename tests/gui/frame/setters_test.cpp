@@ -1,5 +1,7 @@
 // The title, the status line and the gauge.
 
+#include <climits>
+
 #include "frame_checks.h"
 #include "gui_test.h"
 

@@ -103,8 +103,7 @@ GUI_TEST(FrameWidgets, InsertionCursorIsSeenOnlyWithTheFocus)
     EXPECT_TRUE(resource<Boolean>(text, XmNcursorPositionVisible));
     app.whenShown("v_infobox", [&](Shown box) {
         EXPECT_TRUE(wm::waitForFocus(box.widget()));
-        EXPECT_TRUE(
-            pumpUntil([&] { return !resource<Boolean>(text, XmNcursorPositionVisible); }));
+        EXPECT_TRUE(pumpUntil([&] { return !resource<Boolean>(text, XmNcursorPositionVisible); }));
         box.key(XK_Return);
     });
     guiInfoBox("The focus is here.");
