@@ -1,0 +1,180 @@
+// The watch at the pointer while the host callback runs.
+
+#include <X11/cursorfont.h>
+
+#include "events_support.h"
+#include "pointer_picture.h"
+
+using namespace kite::testing;
+
+namespace {
+
+const PointerPicture& watch()
+{
+    static const PointerPicture picture = pictureOfShape(XC_watch);
+    return picture;
+}
+
+// What the server has been sent is not only under way.
+bool isWatchNow()
+{
+    XSync(toolkit::display(), False);
+    return pointerPicture() == watch();
+}
+
+void pointAt(const char* widget)
+{
+    Robot::instance().moveTo(findWidget(widget), Point{5, 5});
+}
+
+}  // namespace
+
+GUI_STARTUP_TEST(BusyCursor, ShowsWhileTheHostCallbackRuns)
+{
+    app.windowHandler = nullptr;
+    app.run([&] {
+        watch();
+        pointAt("v_text");
+        const PointerPicture usual = pointerPicture();
+        ASSERT_NE(usual, watch());
+
+        bool wasShown = false;
+        recorder.onEvent(GUI_EVENT_COMMAND, -2, [&] { wasShown = pointerBecomes(watch()); });
+        app.key(XK_F2);
+        EXPECT_TRUE(wasShown);
+        EXPECT_TRUE(pointerBecomes(usual));
+    });
+}
+
+GUI_STARTUP_TEST(BusyCursor, CoversAllPartsOfTheFrame)
+{
+    app.windowHandler = nullptr;
+    app.run([&] {
+        watch();
+        recorder.onEvent(GUI_EVENT_COMMAND, 1, [&] {
+            for (const char* part : {"v_text", "v_gauge", "v_statusbar"}) {
+                pointAt(part);
+                EXPECT_TRUE(isWatchNow()) << part;
+            }
+        });
+        raiseEvent(GUI_EVENT_COMMAND, 1);
+        EXPECT_EQ(recorder.count(toHost(GUI_EVENT_COMMAND, 1)), 1);
+    });
+}
+
+GUI_STARTUP_TEST(BusyCursor, ShowsWhileTheFrameIsBuilt)
+{
+    app.windowHandler = nullptr;
+    app.init();
+    watch();
+    pointAt("v_text");
+    bool wasShown = false;
+    recorder.onEvent(GUI_EVENT_INIT, 0, [&] { wasShown = pointerBecomes(watch()); });
+    app.run([] { EXPECT_FALSE(isWatchNow()); });
+    EXPECT_TRUE(wasShown);
+}
+
+GUI_TEST(BusyCursor, IsNotForWindowHandlers)
+{
+    watch();
+    pointAt("v_text");
+    recorder.onEvent(GUI_EVENT_COMMAND, -2, [] { EXPECT_FALSE(isWatchNow()); });
+    app.key(XK_F2);
+    EXPECT_EQ(recorder.count(toWindow(GUI_EVENT_COMMAND, -2)), 1);
+}
+
+GUI_TEST(BusyCursor, IsOnTheBoxThatIsOpenAndNotOnTheFrame)
+{
+    watch();
+    app.whenShown("v_infobox", [&](Shown box) {
+        recorder.onEvent(GUI_EVENT_COMMAND, 1, [&] {
+            pointAt("v_infobox");
+            EXPECT_TRUE(isWatchNow());
+            pointAt("v_statusbar");
+            EXPECT_FALSE(isWatchNow());
+        });
+        raiseEvent(GUI_EVENT_COMMAND, 1);
+        pointAt("v_infobox");
+        EXPECT_FALSE(isWatchNow());
+        box.key(XK_Return);
+    });
+    guiInfoBox("The box is the top window");
+    EXPECT_EQ(recorder.count(toHost(GUI_EVENT_COMMAND, 1)), 1);
+}
+
+GUI_STARTUP_TEST(BusyCursor, IsNotOnTheBoxThatTheHostCallbackOpens)
+{
+    app.windowHandler = nullptr;
+    app.run([&] {
+        watch();
+        recorder.onEvent(GUI_EVENT_COMMAND, 1, [] { guiInfoBox("Answer me"); });
+        app.whenShown("v_infobox", [](Shown box) {
+            pointAt("v_infobox");
+            EXPECT_FALSE(isWatchNow());
+            pointAt("v_statusbar");
+            EXPECT_TRUE(isWatchNow());
+            box.key(XK_Return);
+        });
+        raiseEvent(GUI_EVENT_COMMAND, 1);
+        pointAt("v_statusbar");
+        EXPECT_FALSE(isWatchNow());
+    });
+}
+
+// A dialog that gets its first event is not shown yet: the window below it says that the host works.
+GUI_TEST(BusyCursor, IsOnTheWindowBelowADialogThatIsNotShownYet)
+{
+    watch();
+    pointAt("v_text");
+    guiSetTopWnd(makeWindow(nullptr));
+    bool atInit = false;
+    bool atOthers = false;
+    recorder.onEvent(GUI_EVENT_INIT, 0, [&] { atInit = isWatchNow(); });
+    recorder.onEvent(GUI_EVENT_COMMAND, 1, [&] { atOthers = isWatchNow(); });
+    raiseEvent(GUI_EVENT_INIT);
+    EXPECT_TRUE(atInit);
+    EXPECT_FALSE(isWatchNow());
+    raiseEvent(GUI_EVENT_COMMAND, 1);
+    EXPECT_FALSE(atOthers);
+}
+
+GUI_STARTUP_TEST(BusyCursor, StaysWhenANestedEventIsDropped)
+{
+    app.windowHandler = nullptr;
+    app.run([&] {
+        watch();
+        pointAt("v_text");
+        bool wasShown = false;
+        recorder.onEvent(GUI_EVENT_COMMAND, 1, [&] {
+            raiseEvent(GUI_EVENT_COMMAND, 2);
+            wasShown = isWatchNow();
+        });
+        raiseEvent(GUI_EVENT_COMMAND, 1);
+        EXPECT_TRUE(wasShown);
+        EXPECT_FALSE(isWatchNow());
+    });
+}
+
+GUI_STARTUP_TEST(BusyCursor, ComesAgainWithTheNextEvent)
+{
+    app.windowHandler = nullptr;
+    app.run([&] {
+        watch();
+        pointAt("v_text");
+        int shown = 0;
+        recorder.onEvent(GUI_EVENT_COMMAND, [&] { shown += isWatchNow(); });
+        for (int i = 0; i < 3; ++i) raiseEvent(GUI_EVENT_COMMAND, 1);
+        EXPECT_EQ(shown, 3);
+    });
+}
+
+// No window is left to take the watch from; an X error would fail the test.
+GUI_STARTUP_TEST(BusyCursor, FrameMayCloseWhileItShows)
+{
+    app.windowHandler = nullptr;
+    app.run([&] {
+        recorder.onEvent(GUI_EVENT_COMMAND, -2, [] { guiClose(0); });
+        app.key(XK_F2);
+        EXPECT_EQ(guiGetTopWnd(), nullptr);
+    });
+}

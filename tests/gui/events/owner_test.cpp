@@ -1,0 +1,155 @@
+// guiSetOwner: a host with an Xt application of its own, in this process.
+
+#include <Xm/Label.h>
+
+#include "events_support.h"
+
+using namespace kite::testing;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+namespace {
+
+// What the host has made itself.
+class OwnApplication {
+public:
+    OwnApplication()
+    {
+        char program[] = "own";
+        char* arguments[] = {program, nullptr};
+        int count = 1;
+        shell_ = XtVaOpenApplication(&context_, "Own", nullptr, 0, &count, arguments, nullptr,
+                                     applicationShellWidgetClass, nullptr);
+        XtVaCreateManagedWidget("label", xmLabelWidgetClass, shell_, XmNwidth, 300, XmNheight, 200,
+                                nullptr);
+        XtRealizeWidget(shell_);
+        toolkit::attach(shell_);
+        Script::instance().arm();
+        wm::waitUntilSettled(shell_);
+    }
+    ~OwnApplication()
+    {
+        XtDestroyWidget(shell_);
+        XtDestroyApplicationContext(context_);
+    }
+    OwnApplication(const OwnApplication&) = delete;
+    OwnApplication& operator=(const OwnApplication&) = delete;
+
+    Widget shell() const { return shell_; }
+
+private:
+    XtAppContext context_ = nullptr;
+    Widget shell_ = nullptr;
+};
+
+}  // namespace
+
+GUI_STARTUP_TEST(Owner, IsTheParentOfBoxes)
+{
+    const OwnApplication own;
+    guiSetOwner(own.shell());
+    app.whenShown("v_askbox", [&](Shown box) {
+        EXPECT_EQ(XtParent(box.shell()), own.shell());
+        EXPECT_EQ(wm::transientFor(box.widget()), windowOf(own.shell()));
+        box.click("Yes");
+    });
+    EXPECT_EQ(guiYesNoBox("Asked by a host of its own"), GUI_YES);
+    EXPECT_EQ(guiGetTopWnd(), nullptr);
+}
+
+GUI_STARTUP_TEST(Owner, MayBeAnyWidget)
+{
+    const OwnApplication own;
+    Widget const label = findWidget("label");
+    guiSetOwner(label);
+    app.whenShown("v_infobox", [&](Shown box) {
+        EXPECT_EQ(XtParent(box.shell()), label);
+        box.key(XK_Return);
+    });
+    guiInfoBox("Below a label");
+}
+
+GUI_STARTUP_TEST(Owner, WithoutOneThereIsNoBox)
+{
+    const OwnApplication own;
+    EXPECT_EQ(guiYesNoCancelBox("Nobody sees this"), GUI_CANCEL);
+    EXPECT_EQ(findWidget("v_askbox"), nullptr);
+}
+
+GUI_STARTUP_TEST(Owner, NullIsIgnored)
+{
+    const OwnApplication own;
+    guiSetOwner(nullptr);
+    EXPECT_EQ(guiOkCancelBox("Nobody sees this"), GUI_NO);
+    guiSetOwner(own.shell());
+    guiSetOwner(nullptr);
+    app.whenShown("v_askbox", [](Shown box) { box.click("OK"); });
+    EXPECT_EQ(guiOkCancelBox("The owner is still known"), GUI_OK);
+}
+
+GUI_STARTUP_TEST(Owner, NewOneReplacesTheOld)
+{
+    const OwnApplication own;
+    guiSetOwner(findWidget("label"));
+    guiSetOwner(own.shell());
+    app.whenShown("v_infobox", [&](Shown box) {
+        EXPECT_EQ(XtParent(box.shell()), own.shell());
+        box.key(XK_Return);
+    });
+    guiInfoBox("Second owner");
+}
+
+GUI_STARTUP_TEST(Owner, LoadsTheFontsOfTheFrame)
+{
+    const OwnApplication own;
+    EXPECT_THAT(host.profile().accesses(), IsEmpty());
+    guiSetOwner(own.shell());
+    for (const char* font : {"fnamm", "fnamn", "fnamt"})
+        EXPECT_THAT(host.profile().accesses(font), SizeIs(1)) << font;
+}
+
+GUI_STARTUP_TEST(Owner, BoxInABoxBelongsToTheBox)
+{
+    const OwnApplication own;
+    guiSetOwner(own.shell());
+    app.whenShown("v_askbox", [&](Shown outer) {
+        app.whenShown("v_infobox", [&](Shown inner) {
+            EXPECT_EQ(XtParent(inner.shell()), outer.widget());
+            inner.key(XK_Return);
+        });
+        guiInfoBox("Inner");
+        outer.click("No");
+    });
+    EXPECT_EQ(guiYesNoBox("Outer"), GUI_NO);
+}
+
+GUI_STARTUP_TEST(Owner, ShowsMisuse)
+{
+    const OwnApplication own;
+    guiSetOwner(own.shell());
+    EXPECT_MISUSE(guiGetDropName(nullptr, 10), "GetDropName: invalid buffer", GUI_FAILED);
+}
+
+GUI_STARTUP_TEST(Owner, HearsTheUserBreak)
+{
+    const OwnApplication own;
+    guiSetOwner(own.shell());
+    ASSERT_TRUE(wm::waitForFocus(own.shell()));
+    robot.key(XK_F10, Control);
+    int isBroken = 0;
+    const auto end = std::chrono::steady_clock::now() + patience();
+    while (!isBroken && std::chrono::steady_clock::now() < end) isBroken = guiUserBreak();
+    EXPECT_EQ(isBroken, 1);
+    EXPECT_EQ(guiUserBreak(), 0);
+}
+
+GUI_TEST(Owner, DoesNotTakeBoxesFromTheFrame)
+{
+    Widget const mainWindow = guiGetTopWnd();
+    guiSetOwner(app.find("v_statusbar"));
+    app.whenShown("v_infobox", [&](Shown box) {
+        EXPECT_EQ(XtParent(box.shell()), mainWindow);
+        box.key(XK_Return);
+    });
+    guiInfoBox("Belongs to the top window");
+}

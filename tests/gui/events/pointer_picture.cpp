@@ -1,0 +1,71 @@
+#include "pointer_picture.h"
+
+#include <X11/Xlib.h>
+#include <X11/extensions/Xfixes.h>
+
+#include <chrono>
+#include <memory>
+#include <thread>
+
+#include "connection.h"
+#include "patience.h"
+#include "robot.h"
+
+namespace kite::testing {
+
+namespace {
+
+void selectXfixes()
+{
+    int major = 4;
+    int minor = 0;
+    XFixesQueryVersion(connection(), &major, &minor);
+}
+
+}  // namespace
+
+PointerPicture pointerPicture()
+{
+    static const bool isSelected = (selectXfixes(), true);
+    static_cast<void>(isSelected);
+    const std::unique_ptr<XFixesCursorImage, int (*)(void*)> image{
+        XFixesGetCursorImage(connection()), XFree};
+    if (!image) return {};
+    const int count = image->width * image->height;
+    return {image->width,
+            image->height,
+            image->xhot,
+            image->yhot,
+            {image->pixels, image->pixels + count}};
+}
+
+PointerPicture pictureOfShape(unsigned shape)
+{
+    constexpr int kSide = 50;
+    Display* const display = connection();
+    XSetWindowAttributes attributes{};
+    attributes.override_redirect = True;
+    attributes.cursor = XCreateFontCursor(display, shape);
+    Window const window =
+        XCreateWindow(display, rootWindow(), 0, 0, kSide, kSide, 0, CopyFromParent, InputOutput,
+                      CopyFromParent, CWOverrideRedirect | CWCursor, &attributes);
+    XMapRaised(display, window);
+    Robot::instance().moveTo(Point{kSide / 2, kSide / 2});
+    PointerPicture picture = pointerPicture();
+    XDestroyWindow(display, window);
+    XFreeCursor(display, attributes.cursor);
+    XSync(display, False);
+    return picture;
+}
+
+bool pointerBecomes(const PointerPicture& picture)
+{
+    const auto end = std::chrono::steady_clock::now() + patience();
+    while (pointerPicture() != picture) {
+        if (std::chrono::steady_clock::now() >= end) return false;
+        std::this_thread::sleep_for(milliseconds{1});
+    }
+    return true;
+}
+
+}  // namespace kite::testing
