@@ -81,7 +81,9 @@ void prepareButtons(ModalBox& box, const MessageBox& kind)
         buttons.push_back(box.child(XmDIALOG_CANCEL_BUTTON));
         prepareButton(box, buttons.back(), *kind.cancel);
     } else {
+        // Escape presses this button also when nobody sees it.
         box.removeParts({XmDIALOG_CANCEL_BUTTON});
+        box.answerOnPress(box.child(XmDIALOG_CANCEL_BUTTON), kind.ok.answer);
     }
     box.finishButtons(kind.width, buttons);
 }

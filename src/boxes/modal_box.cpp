@@ -22,12 +22,13 @@ Widget create(const ModalBox::Look& look, const char* text)
     if (!parent) return nullptr;
     const CompoundString title{(std::string{appTitle()} + look.titleSuffix).c_str()};
     const CompoundString message{text};
-    Arg arguments[4];
+    Arg arguments[5];
     XtSetArg(arguments[0], XmNdialogStyle, XmDIALOG_FULL_APPLICATION_MODAL);
     XtSetArg(arguments[1], XmNnoResize, True);
     XtSetArg(arguments[2], XmNdialogTitle, title.get());
     XtSetArg(arguments[3], look.textResource, message.get());
-    return look.create(parent, const_cast<char*>(look.widgetName), arguments, 4);
+    XtSetArg(arguments[4], XmNautoUnmanage, False);  // it goes when it is answered, not before
+    return look.create(parent, const_cast<char*>(look.widgetName), arguments, 5);
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 // The frame's place from one process to the next, as the user left it.
 
-#include "gui_test.h"
 #include "decoration.h"
+#include "gui_test.h"
 #include "host_process.h"
 
 using namespace kite::testing;
@@ -19,8 +19,11 @@ bool dragTo(Window window, Point corner)
     Robot& robot = Robot::instance();
     robot.moveTo(*title);
     robot.press();
-    robot.moveTo(*title + Point{10, 10});
-    const bool follows = pumpUntil([&] { return wm::frameRect(window) != before; });
+    int step = 0;
+    const bool follows = pumpUntil([&] {
+        robot.moveTo(*title + Point{10 + ++step % 10, 10});
+        return wm::frameRect(window) != before;
+    });
     robot.moveTo(*title + Point{corner.x - before.x, corner.y - before.y});
     const bool arrives = follows && pumpUntil([&] {
                              const Rect frame = wm::frameRect(window);
