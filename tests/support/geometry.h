@@ -23,6 +23,7 @@ struct Rect {
     bool operator==(const Rect&) const = default;
     int right() const { return x + width; }    // the first column behind it
     int bottom() const { return y + height; }  // the first row below it
+    Rect movedBy(Point way) const { return {x + way.x, y + way.y, width, height}; }
     Point centre() const { return {x + width / 2, y + height / 2}; }
     bool contains(Point p) const { return p.x >= x && p.y >= y && p.x < right() && p.y < bottom(); }
 };

@@ -213,9 +213,23 @@ void moveTo(Client client, Point frameCorner)
         ADD_FAILURE() << "The window has no title bar to drag.";
         return;
     }
-    const Rect frame = frameRect(client);
-    Robot::instance().drag(*title,
-                           *title + Point{frameCorner.x - frame.x, frameCorner.y - frame.y});
+    const Rect start = frameRect(client);
+    const Point way{frameCorner.x - start.x, frameCorner.y - start.y};
+    Robot& robot = Robot::instance();
+    robot.moveTo(*title);
+    robot.press();
+    // A manager takes the pointer only when the drag has begun; what is moved before goes unheeded.
+    bool isNear = false;
+    const bool hasBegun = pumpUntil([&] {
+        isNear = !isNear;
+        robot.moveTo(*title + (isNear ? Point{8, 8} : Point{12, 12}));
+        return frameRect(client) != start;
+    });
+    EXPECT_TRUE(hasBegun) << "The window manager does not move the window.";
+    robot.moveTo(*title + way);
+    constexpr seconds kTimeToFollow{1};  // unless the manager stops it on the way
+    pumpUntil([&] { return frameRect(client) == start.movedBy(way); }, kTimeToFollow * kSlowness);
+    robot.release();
 }
 
 Window waitForWindow(const std::string& title)
