@@ -22,9 +22,13 @@ bool isWatchNow()
     return pointerPicture() == watch();
 }
 
-void pointAt(const char* widget)
+// At its upper left corner, where nothing lies over it.
+void pointAt(const char* name)
 {
-    Robot::instance().moveTo(findWidget(widget), Point{5, 5});
+    Widget const widget = findWidget(name);
+    Robot::instance().moveTo(widget, Point{5, 5});
+    const Rect rect = rectOf(widget);
+    pointTo({rect.x + 5, rect.y + 5});
 }
 
 }  // namespace

@@ -47,7 +47,7 @@ Drag::Drag(const char* offer, const std::string& bytes) : source_({KITE_DRAG_SOU
     const Point to = rectOf(findWidget("v_text")).centre();
     Robot& robot = Robot::instance();
     DragMessages messages;
-    robot.moveTo(from);
+    pointTo(from);
     const PointerPicture usual = pointerPicture();
     robot.press(MiddleButton);
     EXPECT_TRUE(pumpUntil([&] { return pointerPicture() != usual; })) << "Nothing is dragged.";

@@ -1,6 +1,6 @@
 // guiSetOwner: a host with an Xt application of its own, in this process.
 
-#include <Xm/Label.h>
+#include <Xm/Text.h>
 
 #include "events_support.h"
 
@@ -20,7 +20,7 @@ public:
         int count = 1;
         shell_ = XtVaOpenApplication(&context_, "Own", nullptr, 0, &count, arguments, nullptr,
                                      applicationShellWidgetClass, nullptr);
-        XtVaCreateManagedWidget("label", xmLabelWidgetClass, shell_, XmNwidth, 300, XmNheight, 200,
+        XtVaCreateManagedWidget("field", xmTextWidgetClass, shell_, XmNwidth, 300, XmNheight, 200,
                                 nullptr);
         XtRealizeWidget(shell_);
         toolkit::attach(shell_);
@@ -60,13 +60,13 @@ GUI_STARTUP_TEST(Owner, IsTheParentOfBoxes)
 GUI_STARTUP_TEST(Owner, MayBeAnyWidget)
 {
     const OwnApplication own;
-    Widget const label = findWidget("label");
-    guiSetOwner(label);
+    Widget const field = findWidget("field");
+    guiSetOwner(field);
     app.whenShown("v_infobox", [&](Shown box) {
-        EXPECT_EQ(XtParent(box.shell()), label);
+        EXPECT_EQ(XtParent(box.shell()), field);
         box.key(XK_Return);
     });
-    guiInfoBox("Below a label");
+    guiInfoBox("Below a field");
 }
 
 GUI_STARTUP_TEST(Owner, WithoutOneThereIsNoBox)
@@ -90,7 +90,7 @@ GUI_STARTUP_TEST(Owner, NullIsIgnored)
 GUI_STARTUP_TEST(Owner, NewOneReplacesTheOld)
 {
     const OwnApplication own;
-    guiSetOwner(findWidget("label"));
+    guiSetOwner(findWidget("field"));
     guiSetOwner(own.shell());
     app.whenShown("v_infobox", [&](Shown box) {
         EXPECT_EQ(XtParent(box.shell()), own.shell());
@@ -135,6 +135,7 @@ GUI_STARTUP_TEST(Owner, HearsTheUserBreak)
     const OwnApplication own;
     guiSetOwner(own.shell());
     ASSERT_TRUE(wm::waitForFocus(own.shell()));
+    settle();
     robot.key(XK_F10, Control);
     int isBroken = 0;
     const auto end = std::chrono::steady_clock::now() + patience();

@@ -1,3 +1,5 @@
+#include <gtest/gtest.h>
+
 #include "pointer_picture.h"
 
 #include <X11/Xlib.h>
@@ -22,6 +24,18 @@ void selectXfixes()
     XFixesQueryVersion(connection(), &major, &minor);
 }
 
+// The application does not run meanwhile.
+template <typename Condition>
+bool waitFor(const Condition& condition)
+{
+    const auto end = std::chrono::steady_clock::now() + patience();
+    while (!condition()) {
+        if (std::chrono::steady_clock::now() >= end) return false;
+        std::this_thread::sleep_for(milliseconds{1});
+    }
+    return true;
+}
+
 }  // namespace
 
 PointerPicture pointerPicture()
@@ -39,6 +53,13 @@ PointerPicture pointerPicture()
             {image->pixels, image->pixels + count}};
 }
 
+void pointTo(Point onScreen)
+{
+    Robot::instance().moveTo(onScreen);
+    const bool isThere = waitFor([=] { return pointerPosition() == onScreen; });
+    EXPECT_TRUE(isThere) << "The pointer has not come to " << onScreen;
+}
+
 PointerPicture pictureOfShape(unsigned shape)
 {
     constexpr int kSide = 50;
@@ -50,7 +71,7 @@ PointerPicture pictureOfShape(unsigned shape)
         XCreateWindow(display, rootWindow(), 0, 0, kSide, kSide, 0, CopyFromParent, InputOutput,
                       CopyFromParent, CWOverrideRedirect | CWCursor, &attributes);
     XMapRaised(display, window);
-    Robot::instance().moveTo(Point{kSide / 2, kSide / 2});
+    pointTo({kSide / 2, kSide / 2});
     PointerPicture picture = pointerPicture();
     XDestroyWindow(display, window);
     XFreeCursor(display, attributes.cursor);
@@ -60,12 +81,7 @@ PointerPicture pictureOfShape(unsigned shape)
 
 bool pointerBecomes(const PointerPicture& picture)
 {
-    const auto end = std::chrono::steady_clock::now() + patience();
-    while (pointerPicture() != picture) {
-        if (std::chrono::steady_clock::now() >= end) return false;
-        std::this_thread::sleep_for(milliseconds{1});
-    }
-    return true;
+    return waitFor([&] { return pointerPicture() == picture; });
 }
 
 }  // namespace kite::testing

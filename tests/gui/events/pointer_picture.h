@@ -4,6 +4,8 @@
 
 #include <vector>
 
+#include "geometry.h"
+
 namespace kite::testing {
 
 struct PointerPicture {
@@ -17,6 +19,9 @@ struct PointerPicture {
 };
 
 PointerPicture pointerPicture();
+
+// Moves the pointer, and waits until the server has it there: what a robot does may still be under way.
+void pointTo(Point onScreen);
 
 // The picture of a shape of the cursor font. Moves the pointer.
 PointerPicture pictureOfShape(unsigned shape);
