@@ -7,6 +7,7 @@
 
 #include <chrono>
 #include <memory>
+#include <string_view>
 #include <thread>
 
 #include "connection.h"
@@ -22,6 +23,20 @@ void selectXfixes()
     int major = 4;
     int minor = 0;
     XFixesQueryVersion(connection(), &major, &minor);
+}
+
+using CursorImage = std::unique_ptr<XFixesCursorImage, int (*)(void*)>;
+
+CursorImage currentImage()
+{
+    static const bool isSelected = (selectXfixes(), true);
+    static_cast<void>(isSelected);
+    return {XFixesGetCursorImage(connection()), XFree};
+}
+
+bool isNamed(const CursorImage& image, std::string_view name)
+{
+    return image && image->name && image->name == name;
 }
 
 // The application does not run meanwhile.
@@ -40,10 +55,7 @@ bool waitFor(const Condition& condition)
 
 PointerPicture pointerPicture()
 {
-    static const bool isSelected = (selectXfixes(), true);
-    static_cast<void>(isSelected);
-    const std::unique_ptr<XFixesCursorImage, int (*)(void*)> image{
-        XFixesGetCursorImage(connection()), XFree};
+    const CursorImage image = currentImage();
     if (!image) return {};
     const int count = image->width * image->height;
     return {image->width,
@@ -71,7 +83,11 @@ PointerPicture pictureOfShape(unsigned shape)
         XCreateWindow(display, rootWindow(), 0, 0, kSide, kSide, 0, CopyFromParent, InputOutput,
                       CopyFromParent, CWOverrideRedirect | CWCursor, &attributes);
     XMapRaised(display, window);
+    // A name of its own tells it from what a window manager shows while it grabs the pointer.
+    constexpr char kName[] = "kitegui-test-reference";
+    XFixesSetCursorName(display, attributes.cursor, kName);
     pointTo({kSide / 2, kSide / 2});
+    EXPECT_TRUE(waitFor([&] { return isNamed(currentImage(), kName); })) << "No such cursor.";
     PointerPicture picture = pointerPicture();
     XDestroyWindow(display, window);
     XFreeCursor(display, attributes.cursor);
