@@ -13,8 +13,14 @@ namespace kite::testing {
 class IgnoredLeaks {
 public:
 #if defined(__SANITIZE_ADDRESS__)
-    IgnoredLeaks() { __lsan_disable(); }
-    ~IgnoredLeaks() { __lsan_enable(); }
+    IgnoredLeaks()
+    {
+        __lsan_disable();
+    }
+    ~IgnoredLeaks()
+    {
+        __lsan_enable();
+    }
 #else
     IgnoredLeaks() {}
 #endif

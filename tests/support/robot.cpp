@@ -18,8 +18,9 @@ namespace kite::testing {
 
 namespace {
 
-constexpr int kDragSteps = 8;              // enough for every program to notice a drag
-constexpr milliseconds kReleaseTime{500};  // a release is lost when its window goes: no failure
+constexpr int kDragSteps = 8;                 // enough for every program to notice a drag
+constexpr unsigned long kBetweenClicks = 20;  // milliseconds, of a double click
+constexpr milliseconds kReleaseTime{500};     // a release is lost when its window goes: no failure
 
 struct ModifierKey {
     unsigned modifier;
@@ -38,9 +39,9 @@ void fakeKey(KeyCode code, bool isDown)
     XTestFakeKeyEvent(connection(), code, isDown, CurrentTime);
 }
 
-void fakeButton(unsigned button, bool isDown)
+void fakeButton(unsigned button, bool isDown, unsigned long after = 0)
 {
-    XTestFakeButtonEvent(connection(), button, isDown, CurrentTime);
+    XTestFakeButtonEvent(connection(), button, isDown, after);
 }
 
 void fakeModifiers(unsigned modifiers, bool areDown)
@@ -141,7 +142,8 @@ void Robot::clickTimes(int times, unsigned button)
 {
     awaitEndOfClick(button);
     for (int i = 0; i < times; ++i) {
-        fakeButton(button, true);
+        // Presses of one millisecond are one press to some widgets.
+        fakeButton(button, true, i > 0 ? kBetweenClicks : 0);
         fakeButton(button, false);
     }
     sync();
