@@ -6,14 +6,10 @@ static int handle(int event, int id, int a, int b)
 {
     (void)a;
     (void)b;
-    if (event == GUI_EVENT_INIT && id == 0)
-        guiSetStatusLine("Hello. F1: who wrote this?");
-    if (event != GUI_EVENT_COMMAND)
-        return 0;
-    if (id == GUI_COMMAND_F1)
-        guiInfoBox("You did,\nin less than 40 lines.");
-    if (id == GUI_COMMAND_CLOSE && guiYesNoBox("Leave?") == GUI_YES)
-        guiClose(0);
+    if (event == GUI_EVENT_INIT && id == 0) guiSetStatusLine("Hello. F1: who wrote this?");
+    if (event != GUI_EVENT_COMMAND) return 0;
+    if (id == GUI_COMMAND_F1) guiInfoBox("You did,\nin less than 40 lines.");
+    if (id == GUI_COMMAND_CLOSE && guiYesNoBox("Leave?") == GUI_YES) guiClose(0);
     return 0;
 }
 

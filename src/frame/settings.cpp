@@ -3,7 +3,7 @@
 #include <clocale>
 #include <cmath>
 #include <cstdlib>
-#include <cstring>
+#include <string_view>
 #include <vector>
 
 #include "frame/app_info.h"
@@ -59,7 +59,7 @@ void write(const IntKey& key, int value)
 std::string read(const StringKey& key)
 {
     std::vector<char> buffer(static_cast<std::size_t>(key.size), '\0');
-    std::strcpy(buffer.data(), key.before);
+    std::string_view{key.before}.copy(buffer.data(), buffer.size() - 1);
     kxGetUPStr(appName(), key.name, buffer.data(), key.size);
     buffer.back() = '\0';
     return buffer.front() ? buffer.data() : key.byDefault;

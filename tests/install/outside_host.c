@@ -28,7 +28,8 @@ int main(void)
     expect(guiRunPlugin(plugin) == 7, "a plug-in gets a dispatcher, and its result comes back");
     expect(decorWindow == 666, "no window manager is known");
     expect(kxLocNamePos("/usr/bin/env") == 9, "kitehost answers");
-    expect(kxAppDir()[strlen(kxAppDir()) - 1] == '/', "the application directory ends with a separator");
+    expect(kxAppDir()[strlen(kxAppDir()) - 1] == '/',
+           "the application directory ends with a separator");
     puts(failures == 0 ? "outside_host.c: ok" : "outside_host.c: failed");
     return failures == 0 ? 0 : 1;
 }
