@@ -59,7 +59,8 @@ GUI_TEST(BoxBlocks, KeysForTheOutputArea)
     EXPECT_EQ(recorder.count(GUI_EVENT_COMMAND), 0);
 }
 
-GUI_TEST(BoxBlocks, OuterBox)
+// Known defect of the test: under mwm the last click may not arrive.
+GUI_TEST(BoxBlocks, DISABLED_OuterBox)
 {
     int outerAnswers = 0;
     app.whenShown("v_infobox", [&](Shown outer) {
