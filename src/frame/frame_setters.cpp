@@ -83,6 +83,16 @@ void moveDecorated(Widget shell, int x, int y)
     XConfigureWindow(XtDisplay(shell), XtWindow(shell), given, &place);
 }
 
+// The shell takes itself for an icon until the window manager's word for the opposite is read, and does
+// nothing then.
+void iconify(Widget shell)
+{
+    if (resource<Boolean>(shell, XmNiconic))
+        XIconifyWindow(XtDisplay(shell), XtWindow(shell), XScreenNumberOfScreen(XtScreen(shell)));
+    else
+        XtVaSetValues(shell, XmNiconic, True, nullptr);
+}
+
 }  // namespace
 
 }  // namespace kite::frame
@@ -118,7 +128,7 @@ int guiMoveWin(int x, int y, int w, int h)
     Widget const shell = frame::widgets().shell;
     if (!shell) return 0;
     if (w == 0 || h == 0) {
-        XtVaSetValues(shell, XmNiconic, True, nullptr);
+        frame::iconify(shell);
         return 0;
     }
     const bool isKnownX = x >= 0 && x == resource<Position>(shell, XmNx);

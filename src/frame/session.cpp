@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "toolkit/drop_time_out.h"
 #include "toolkit/never_destroyed.h"
 #include "toolkit/widget_ref.h"
 
@@ -63,6 +64,7 @@ bool open(const char* applicationName, const char* applicationClass)
     if (!state.display) return false;
     XtDisplayInitialize(state.application, state.display, applicationName, applicationClass,
                         nullptr, 0, &count, arguments);
+    keepTimeOutsFromDrops(state.display);
     return true;
 }
 
@@ -102,6 +104,7 @@ void setOwner(Widget owner)
     state.owner.reset(owner);
     state.application = XtWidgetToApplicationContext(owner);
     state.display = XtDisplayOfObject(owner);
+    keepTimeOutsFromDrops(state.display);
     ++state.generation;
     applyWarningPolicy();
 }

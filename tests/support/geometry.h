@@ -21,6 +21,7 @@ struct Rect {
     int height = 0;
 
     bool operator==(const Rect&) const = default;
+    Point corner() const { return {x, y}; }
     int right() const { return x + width; }    // the first column behind it
     int bottom() const { return y + height; }  // the first row below it
     Rect movedBy(Point way) const { return {x + way.x, y + way.y, width, height}; }

@@ -45,6 +45,37 @@ void askManager(Client client, const char* message, long first, long second = 0)
     XSync(connection(), False);
 }
 
+// Clicks on the button of the window menu until the menu is shown: mwm, still busy with something else,
+// loses a click now and then. Returns the menu's window, or 0.
+Window showMwmMenu(Client client, Point button)
+{
+    const Point inMenu = clientRect(client).corner() + Point{8, 8};
+    const auto outermost = [&] { return windowsAt(inMenu).at(0); };
+    const Window covered = outermost();
+    constexpr int kMostClicks = 5;
+    constexpr seconds kTimeToShow{1};
+    for (int i = 0; i < kMostClicks; ++i) {
+        Robot::instance().moveTo(button);
+        Robot::instance().click();
+        if (pumpUntil([&] { return outermost() != covered; }, kTimeToShow * kSlowness))
+            return outermost();
+    }
+    ADD_FAILURE() << "The window menu is not shown.";
+    return 0;
+}
+
+// The menu's last item closes. A double click on the button does as well, but its second click may go
+// to the menu that the first one shows.
+void closeByMwmMenu(Client client, Point button)
+{
+    const Window menu = showMwmMenu(client, button);
+    if (!menu) return;
+    const Rect rect = rectOnScreen(menu);
+    constexpr int kToLastItem = 10;  // pixels from the lower edge
+    Robot::instance().moveTo({rect.centre().x, rect.bottom() - kToLastItem});
+    Robot::instance().click();
+}
+
 bool isOverrideRedirect(Window window)
 {
     XWindowAttributes attributes{};
@@ -109,6 +140,24 @@ bool waitForFocus(Client client)
     return pumpUntil([&] { return hasFocus(client); });
 }
 
+// It answers every wish for a size, in order, also for the size that the window has.
+void awaitManager(Client client)
+{
+    settle();  // what the application has not sent yet, the manager has not been told
+    if (kind() == Kind::NoManager) return;
+    Display* const display = connection();
+    const Rect rect = clientRect(client);
+    XSelectInput(display, client.window, StructureNotifyMask);
+    XResizeWindow(display, client.window, static_cast<unsigned>(rect.width),
+                  static_cast<unsigned>(rect.height));
+    const bool isAnswered = pumpUntil([&] {
+        XEvent event;
+        return XCheckTypedWindowEvent(display, client.window, ConfigureNotify, &event);
+    });
+    EXPECT_TRUE(isAnswered) << "The window manager does not answer.";
+    XSelectInput(display, client.window, NoEventMask);
+}
+
 Window frameOf(Client client)
 {
     Window window = client.window;
@@ -146,12 +195,12 @@ void closeByDecoration(Client client)
     const std::optional<Point> button = isMwm ? menuButton(client) : closeButton(client);
     if (!button) return requestClose(client);
     const int before = toolkit::received(ClientMessage);
-    Robot& robot = Robot::instance();
-    robot.moveTo(*button);
-    if (isMwm)
-        robot.doubleClick();
-    else
-        robot.click();
+    if (isMwm) {
+        closeByMwmMenu(client, *button);
+    } else {
+        Robot::instance().moveTo(*button);
+        Robot::instance().click();
+    }
     awaitCloseRequest(client, before);
 }
 

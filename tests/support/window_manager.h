@@ -40,13 +40,17 @@ bool waitUntilSettled(Client client);
 bool hasFocus(Client client);
 bool waitForFocus(Client client);
 
+// Returns when the manager has handled everything that it was told before: a window that has gone keeps
+// it busy for a while, also when the next one has got the focus.
+void awaitManager(Client client);
+
 // The outermost window around the client; itself when there is no decoration.
 Window frameOf(Client client);
 Rect frameRect(Client client);
 Rect clientRect(Client client);
 
-// Asks to close as this window manager's user does: in openbox like a pager or taskbar, in mwm with a
-// double click on the window menu button. Undecorated windows get the message that a manager sends.
+// Asks to close as this window manager's user does: in openbox like a pager or taskbar, in mwm through
+// the window menu. Undecorated windows get the message that a manager sends.
 // Returns when the request has reached the client, if that is this process; else when it was sent.
 void close(Client client);
 void closeByDecoration(Client client);  // with the mouse, in either

@@ -59,8 +59,7 @@ GUI_TEST(BoxBlocks, KeysForTheOutputArea)
     EXPECT_EQ(recorder.count(GUI_EVENT_COMMAND), 0);
 }
 
-// Known defect of the test: under mwm the last click may not arrive.
-GUI_TEST(BoxBlocks, DISABLED_OuterBox)
+GUI_TEST(BoxBlocks, OuterBox)
 {
     int outerAnswers = 0;
     app.whenShown("v_infobox", [&](Shown outer) {
@@ -77,6 +76,8 @@ GUI_TEST(BoxBlocks, DISABLED_OuterBox)
         });
         EXPECT_EQ(guiYesNoBox("Inner?"), 1);
         EXPECT_TRUE(isShown(outer.widget()));
+        // The manager keeps clicks away until it has seen the inner box go.
+        wm::awaitManager(outer.widget());
         outer.click("OK");
     });
     guiInfoBox("Outer");

@@ -108,8 +108,7 @@ GUI_TEST(FileDrop, NoNameLeavesAnEmptyBuffer)
     EXPECT_EQ(fetch(2000), nothing);
 }
 
-// Known defect: after about one drop in four a running Xt timer is lost, and what waits for one hangs.
-GUI_TEST(FileDrop, DISABLED_InvalidBuffersAreReportedAndKeepTheName)
+GUI_TEST(FileDrop, InvalidBuffersAreReportedAndKeepTheName)
 {
     dropName("a");
     char buffer[10] = "as it was";
@@ -183,17 +182,15 @@ GUI_TEST(FileDrop, RefusedNamesAreNone)
     EXPECT_EQ(fetch(100), nothing);
 }
 
-// Known defect: after about one drop in four a running Xt timer is lost, and what waits for one hangs.
-GUI_TEST(FileDrop, DISABLED_HandlerMayStartTheTimer)
+GUI_TEST(FileDrop, HandlerMayStartTheTimer)
 {
     recorder.onEvent(GUI_EVENT_DROP, [] { guiTimer(100); });
     dropName("/tmp/a");
     EXPECT_TRUE(pumpUntil([&] { return recorder.count(GUI_EVENT_TIMER) >= 2; }));
 }
 
-// Known defect: after about one drop in four a running Xt timer is lost, and what waits for one hangs.
 // The timer comes and goes while the source takes its time to tell the name.
-GUI_TEST(FileDrop, DISABLED_LeavesARunningTimerAlone)
+GUI_TEST(FileDrop, LeavesARunningTimerAlone)
 {
     guiTimer(100);
     Drag drag{"slow-file", "/tmp/a"};
@@ -202,8 +199,7 @@ GUI_TEST(FileDrop, DISABLED_LeavesARunningTimerAlone)
     EXPECT_TRUE(pumpUntil([&] { return recorder.count(GUI_EVENT_TIMER) >= 5; }));
 }
 
-// Known defect: after about one drop in four a running Xt timer is lost, and what waits for one hangs.
-GUI_TEST(FileDrop, DISABLED_HandlerMayOpenABox)
+GUI_TEST(FileDrop, HandlerMayOpenABox)
 {
     recorder.onEvent(GUI_EVENT_DROP, [] { guiInfoBox("Thank you"); });
     app.whenShown("v_infobox", [](Shown box) { box.key(XK_Return); });

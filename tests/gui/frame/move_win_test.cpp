@@ -143,6 +143,20 @@ GUI_TEST(MoveWin, RestoresAgainAndAgain)
     }
 }
 
+// The library has not heard of the manager's change when it is asked for the next one.
+GUI_TEST(MoveWin, IconifiesWhatTheUserHasJustBroughtBack)
+{
+    guiMoveWin(0, 0, 0, 0);
+    ASSERT_TRUE(isIconic());
+    settle();
+    wm::deiconify(toolkit::root());
+    const auto end = std::chrono::steady_clock::now() + patience();
+    while (!wm::isSettled(toolkit::root()) && std::chrono::steady_clock::now() < end) continue;
+    ASSERT_TRUE(wm::isSettled(toolkit::root()));
+    guiMoveWin(0, 0, 0, 0);
+    EXPECT_TRUE(isIconic());
+}
+
 GUI_STARTUP_TEST(MoveWin, WorksBeforeTheStart)
 {
     app.init();
