@@ -72,15 +72,22 @@ void place(Widget shell, const std::array<Placement, 4>& placements)
     XtSetValues(shell, arguments.data(), count);
 }
 
-// The toolkit sends nothing for a coordinate that the shell has already; but it is the decoration that
-// the window manager moves there, and the shell has stood further in.
-void moveDecorated(Widget shell, int x, int y)
+void moveBy(Widget shell, int x, int y, int offset)
 {
     XWindowChanges place{};
-    place.x = std::min(x, kLargestCoordinate);
-    place.y = std::min(y, kLargestCoordinate);
+    place.x = std::min(x, kLargestCoordinate) + offset;
+    place.y = std::min(y, kLargestCoordinate) + offset;
     const unsigned int given = (x >= 0 ? CWX : 0U) | (y >= 0 ? CWY : 0U);
     XConfigureWindow(XtDisplay(shell), XtWindow(shell), given, &place);
+}
+
+// The toolkit sends nothing for a coordinate that the shell has already; but it is the decoration that
+// the window manager moves there, and the shell has stood further in. Some managers do not move either
+// when they hear of the place where the client is: they hear of another one first.
+void moveDecorated(Widget shell, int x, int y)
+{
+    moveBy(shell, x, y, 1);
+    moveBy(shell, x, y, 0);
 }
 
 // The shell takes itself for an icon until the window manager's word for the opposite is read, and does

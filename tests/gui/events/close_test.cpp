@@ -1,5 +1,8 @@
 // guiClose: closes the top window.
 
+#include <Xm/BulletinB.h>
+#include <Xm/Form.h>
+
 #include <climits>
 #include <cstring>
 
@@ -214,6 +217,33 @@ GUI_TEST(Close, LetsEventsPassAgainAfterAWindowOfTheHost)
     recorder.clear();
     app.key(XK_F2);
     EXPECT_THAT(recorder.events(), ElementsAre(toWindow(GUI_EVENT_COMMAND, -2)));
+}
+
+// A window that hangs on the frame's shell, not on the main window: the frame is next all the same.
+GUI_TEST(Close, OfAPopupOfTheFramesShellLeavesTheFrame)
+{
+    Widget const mainWindow = guiGetTopWnd();
+    char name[] = "window";
+    guiSetTopWnd(XmCreateBulletinBoardDialog(app.shell(), name, nullptr, 0));
+    guiClose(0);
+    EXPECT_EQ(guiGetTopWnd(), mainWindow);
+    EXPECT_TRUE(isShown(app.find("v_text")));
+}
+
+GUI_TEST(Close, OfAnotherShellOfTheHostLeavesTheFrame)
+{
+    Widget const mainWindow = guiGetTopWnd();
+    Widget const shell =
+        XtVaAppCreateShell("other", "Other", applicationShellWidgetClass, toolkit::display(),
+                           XmNwidth, 100, XmNheight, 100, nullptr);
+    bool isDestroyed = false;
+    onCallback(shell, XmNdestroyCallback, [&] { isDestroyed = true; });
+    guiSetTopWnd(XtVaCreateManagedWidget("form", xmFormWidgetClass, shell, nullptr));
+    XtRealizeWidget(shell);
+    guiClose(0);
+    EXPECT_TRUE(isDestroyed);
+    EXPECT_EQ(guiGetTopWnd(), mainWindow);
+    EXPECT_TRUE(isShown(app.find("v_text")));
 }
 
 // Its shell is the frame's.

@@ -64,6 +64,20 @@ GUI_TEST(MoveWin, SamePlaceAgainIsTheSamePlace)
     }
 }
 
+// The shell's coordinates are those of the client, the decoration stands further out.
+GUI_TEST(MoveWin, PlaceOfTheClientIsANewPlaceForTheDecoration)
+{
+    guiMoveWin(200, 150, 500, 400);
+    ASSERT_TRUE(comesTo({200, 150, 500, 400}));
+    const Rect client = wm::clientRect(app.shell());
+    ASSERT_TRUE(pumpUntil([&] {
+        return resource<Position>(app.shell(), XmNx) == client.x &&
+               resource<Position>(app.shell(), XmNy) == client.y;
+    }));
+    guiMoveWin(client.x, client.y, 500, 400);
+    EXPECT_TRUE(comesTo({client.x, client.y, 500, 400}));
+}
+
 GUI_TEST(MoveWin, NegativeXAndHeightKeepBoth)
 {
     guiMoveWin(200, 150, 500, 400);

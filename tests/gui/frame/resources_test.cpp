@@ -58,3 +58,17 @@ GUI_STARTUP_TEST(XResources, AreKeyedByTheApplicationTitle)
     app.init();
     EXPECT_EQ(resource<Dimension>(findWidget("v_sline"), XmNmarginWidth), 13);
 }
+
+// Where the user says how large, nobody adds to it.
+GUI_STARTUP_TEST(XResources, GeometryIsTheUsers)
+{
+    writeUsersResources("Kite.geometry: 640x480+50+60\n");
+    app.run([&] {
+        const Rect inside = wm::clientRect(app.shell());
+        EXPECT_EQ(inside.width, 640);
+        EXPECT_EQ(inside.height, 480);
+        const Rect outside = wm::frameRect(app.shell());
+        EXPECT_EQ(outside.x, 50);
+        EXPECT_EQ(outside.y, 60);
+    });
+}

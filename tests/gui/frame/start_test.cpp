@@ -75,6 +75,20 @@ GUI_TEST(Start, ShellSaysItsLeastSize)
     EXPECT_EQ(resource<int>(app.shell(), XmNminHeight), 200);
 }
 
+// A window manager may ignore a position that a program has made up, and takes the user's.
+GUI_STARTUP_TEST(Start, SavedPlaceIsThePlaceThatTheUserWants)
+{
+    for (const char* const key : {"mwndx", "mwndy"}) host.profile().setInt(key, 0);
+    host.profile().setInt("mwndw", 500);
+    host.profile().setInt("mwndh", 400);
+    app.run([&] { EXPECT_TRUE(wm::normalHintsOf(app.shell()).flags & USPosition); });
+}
+
+GUI_TEST(Start, PlaceInTheMiddleIsTheProgramsOwn)
+{
+    EXPECT_FALSE(wm::normalHintsOf(app.shell()).flags & USPosition);
+}
+
 GUI_TEST(Start, CloseRequestsAreLeftToTheLibrary)
 {
     EXPECT_THAT(wm::protocolsOf(app.shell()), Contains("WM_DELETE_WINDOW"));
@@ -157,6 +171,17 @@ GUI_STARTUP_TEST(Start, FrameCanBeOpenedAgainAfterItsEnd)
         EXPECT_EQ(labelOf(findWidget("v_sline")), " ");
         EXPECT_EQ(resource<int>(findWidget("v_gauge"), XmNvalue), 0);
     });
+}
+
+// More often than the toolkit would bear with displays at addresses that it knows.
+GUI_STARTUP_TEST(Start, FrameCanBeOpenedManyTimes)
+{
+    constexpr int kTimes = 5;
+    for (int i = 0; i < kTimes; ++i) {
+        app.whenShown("v_infobox", [](Shown box) { box.key(XK_Return); });
+        app.run([] { guiInfoBox("Once more"); });
+    }
+    EXPECT_EQ(recorder.count(GUI_EVENT_INIT), kTimes);
 }
 
 GUI_STARTUP_TEST(Start, ReturnsZeroAtTheEnd)

@@ -202,6 +202,38 @@ GUI_STARTUP_TEST(Tooltip, EndsWithTheFrame)
     app.run([] { EXPECT_TRUE(noTipComes()); });
 }
 
+// The tip belongs to the box; the next pointer movement must not look for it there.
+GUI_STARTUP_TEST(Tooltip, GoesWithTheBoxThatItStandsOn)
+{
+    setDelaySetting("0");
+    app.run([&] {
+        app.whenShown("v_infobox", [](Shown box) {
+            hover::enterWithTip("Tip");
+            EXPECT_TRUE(isTipShown());
+            EXPECT_EQ(XtParent(tip()), box.widget());
+            box.key(XK_Return);
+        });
+        guiInfoBox("A box.");
+        EXPECT_TRUE(isTipGone());
+        hover::leave();
+    });
+}
+
+GUI_STARTUP_TEST(Tooltip, OfTheWindowBelowGoesWhileABoxIsOpen)
+{
+    setDelaySetting("0");
+    app.run([&] {
+        hover::enterWithTip("Tip");
+        ASSERT_TRUE(isTipShown());
+        app.whenShown("v_infobox", [](Shown box) {
+            hover::leave();
+            EXPECT_TRUE(isTipGone());
+            box.key(XK_Return);
+        });
+        guiInfoBox("A box.");
+    });
+}
+
 GUI_STARTUP_TEST(Tooltip, NeedsAFrame)
 {
     hover::enterWithTip("Tip");

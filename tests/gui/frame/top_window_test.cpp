@@ -144,3 +144,13 @@ GUI_TEST(TopWindow, IsTheMainWindowAfterABox)
     guiInfoBox("A box.");
     EXPECT_EQ(guiGetTopWnd(), findWidget("v_mainwnd"));
 }
+
+// A gadget has no window of its own.
+GUI_TEST(TopWindow, GadgetLeavesBoxesToTheWidgetAroundIt)
+{
+    guiSetTopWnd(app.find("v_sline"));
+    app.whenShown("v_infobox", [](Shown box) { box.key(XK_Return); });
+    guiInfoBox("A box.");
+    EXPECT_EQ(guiGetTopWnd(), app.find("v_sline"));
+    guiSetTopWnd(app.find("v_mainwnd"));
+}
