@@ -1,6 +1,7 @@
 #include "ini_text.h"
 
 #include <algorithm>
+#include <cctype>
 #include <map>
 
 namespace kitehost {
@@ -75,10 +76,38 @@ bool allLines(std::string_view text, Visitor visit)
     return true;
 }
 
-bool isPlainName(std::string_view name)
+bool isHexDigit(char c)
 {
-    return std::all_of(name.begin(), name.end(), isText) &&
-           name.find_first_of(kNewlines) == std::string_view::npos && trimmed(name) == name;
+    return std::isxdigit(static_cast<unsigned char>(c)) != 0;
+}
+
+// What would be read as an escape is one.
+bool isEscape(std::string_view text)
+{
+    return text.size() >= 3 && text[0] == '%' && isHexDigit(text[1]) && isHexDigit(text[2]);
+}
+
+std::string escaped(char c)
+{
+    constexpr char kDigits[] = "0123456789ABCDEF";
+    const auto byte = static_cast<unsigned char>(c);
+    return {'%', kDigits[byte / 16], kDigits[byte % 16]};
+}
+
+// Blanks at both ends would get lost.
+std::string inFile(std::string_view name, char end)
+{
+    const std::string_view inner = trimmed(name);
+    const std::size_t first = name.find(inner);
+    std::string result;
+    for (std::size_t i = 0; i < name.size(); ++i) {
+        const bool isInner = i >= first && i < first + inner.size();
+        const bool isPlain = isInner && isText(name[i]) && name[i] != end &&
+                             kNewlines.find(name[i]) == std::string_view::npos &&
+                             !isEscape(name.substr(i));
+        result += isPlain ? std::string{name[i]} : escaped(name[i]);
+    }
+    return result;
 }
 
 }  // namespace
@@ -89,16 +118,19 @@ bool isIniText(std::string_view text)
 }
 
 // The empty name is the section of the keys in front of the first heading.
-bool isSectionName(std::string_view name)
+std::string sectionInFile(std::string_view name)
 {
-    return isPlainName(name) && name.find(']') == std::string_view::npos;
+    return inFile(name, ']');
 }
 
-bool isKeyName(std::string_view name)
+// What makes a line a heading or a comment does so at its beginning only. A byte order mark is none there
+// but at the very beginning of the file.
+std::string keyInFile(std::string_view name)
 {
-    // A byte order mark at the very beginning of the file would be taken for one.
-    return isPlainName(name) && !name.empty() && name.find('=') == std::string_view::npos &&
-           !name.starts_with('[') && !isComment(name) && !name.starts_with(kByteOrderMark);
+    std::string result = inFile(name, '=');
+    const bool looksDifferent =
+        result.starts_with('[') || isComment(result) || result.starts_with(kByteOrderMark);
+    return looksDifferent ? escaped(result.front()) + result.substr(1) : result;
 }
 
 std::string commentsLost(std::string_view before, std::string_view after)

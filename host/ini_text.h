@@ -11,10 +11,10 @@ namespace kitehost {
 // when the profile is written again, so a text with it counts as damaged.
 bool isIniText(std::string_view text);
 
-// Can the name be written so that exactly this name is read again? What cannot is refused: it would
-// read as another section or key.
-bool isSectionName(std::string_view name);
-bool isKeyName(std::string_view name);
+// The name as it stands in the file. A byte that would make it read as something else is written as
+// "%" and two hexadecimal digits: "a]" as "a%5D". No two names are written alike.
+std::string sectionInFile(std::string_view name);
+std::string keyInFile(std::string_view name);
 
 // The comment lines of one text that another lacks, in their order, each with its newline.
 std::string commentsLost(std::string_view before, std::string_view after);

@@ -67,7 +67,9 @@ const std::string& Profile::source() const
 const char* Profile::find(const char* section, const char* key) const
 {
     CSimpleIniCaseA::TNamesDepend values;
-    return ini->table.GetAllValues(section, key, values) ? values.back().pItem : nullptr;
+    const bool isThere =
+        ini->table.GetAllValues(sectionInFile(section).c_str(), keyInFile(key).c_str(), values);
+    return isThere ? values.back().pItem : nullptr;
 }
 
 std::optional<int> Profile::findInt(const char* section, const char* key) const
@@ -78,7 +80,8 @@ std::optional<int> Profile::findInt(const char* section, const char* key) const
 
 void Profile::set(const char* section, const char* key, int value)
 {
-    check(ini->table.SetLongValue(section, key, value, nullptr, /*hex=*/false, /*replace=*/true));
+    check(ini->table.SetLongValue(sectionInFile(section).c_str(), keyInFile(key).c_str(), value,
+                                  nullptr, /*hex=*/false, /*replace=*/true));
 }
 
 // SimpleIni keeps comments in front of the keys and sections they stand at. Those behind the last

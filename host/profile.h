@@ -27,7 +27,7 @@ public:
     // The value when it is a decimal integer and nothing else.
     std::optional<int> findInt(const char* section, const char* key) const;
 
-    // The names must be storable (see ini_text.h).
+    // The key must not be empty.
     void set(const char* section, const char* key, int value);
 
     // The profile with what was set, comments included.

@@ -56,7 +56,7 @@ KITEGUI_API int kxGetUPInt(const char* section, const char* key, int defaultValu
 
 KITEGUI_API void kxSetUPInt(const char* section, const char* key, int value)
 {
-    if (!section || !key || !isSectionName(section) || !isKeyName(key)) return;
+    if (!section || !key || !*key) return;
     guarded(false, [&] {
         const bool changes = currentProfile().findInt(section, key) != value;
         if (changes) store(section, key, value);

@@ -226,7 +226,8 @@ KITEGUI_API extern int decorWindow;
  *
  *   handler  the main frame's window handler, or null to use the host callback
  *
- * Returns 0, at once when the frame was closed before; -1 before guiInit or when a main loop runs already.
+ * Returns 0, at once when the frame has been closed since guiInit; -1 when no guiInit has come since the
+ * start or the last main loop, or when a main loop runs already.
  */
 KITEGUI_API int guiStart(GuiHandler handler);
 
@@ -257,7 +258,7 @@ KITEGUI_API void guiTimer(int milliseconds);
  */
 KITEGUI_API int guiUserBreak(void);
 
-/* Rings the display's bell at volume 50. */
+/* Rings the display's bell at volume 50, at once. */
 KITEGUI_API void guiBeep(void);
 
 /*
@@ -323,7 +324,8 @@ KITEGUI_API int guiYesNoCancelBox(const char *message);
  * Asks for one line of text.
  *
  *   prompt        the text above the field
- *   buffer, size  holds the text the field starts with, and receives the answer: at most size - 1 bytes
+ *   buffer, size  holds the text the field starts with, and receives the answer: at most size - 1 bytes,
+ *                 and never more than 250,000, which is what X can draw
  *   hidden        non-zero: what is typed cannot be read (passwords)
  *
  * Returns the length of the answer after OK; -1, with an empty buffer, after Cancel or a closed window;

@@ -4,12 +4,14 @@
 #include <Xm/TextF.h>
 #include <kitegui.h>
 
+#include <algorithm>
 #include <cstring>
 #include <string>
 
 #include "boxes/misuse.h"
 #include "boxes/modal_box.h"
 #include "toolkit/colours.h"
+#include "toolkit/displayable_text.h"
 #include "toolkit/host_buffer.h"
 #include "toolkit/insertion_cursor.h"
 #include "toolkit/resources.h"
@@ -35,7 +37,8 @@ void prepareField(Widget box, Widget field, std::string text, int mostCharacters
 
 int ask(const char* prompt, char* buffer, int size, bool isHidden)
 {
-    const std::string initial{buffer, strnlen(buffer, static_cast<std::size_t>(size) - 1)};
+    const int mostCharacters = std::min(size - 1, kLongestEditableText);
+    const std::string initial{buffer, strnlen(buffer, static_cast<std::size_t>(mostCharacters))};
     ModalBox box{kPromptLook, prompt};
     buffer[0] = '\0';
     if (!box.widget()) return GUI_FAILED;
@@ -45,7 +48,7 @@ int ask(const char* prompt, char* buffer, int size, bool isHidden)
     Widget const cancel = box.child(XmDIALOG_CANCEL_BUTTON);
     box.removeParts({XmDIALOG_SEPARATOR, XmDIALOG_HELP_BUTTON});
     ModalBox::useDialogFont({box.child(XmDIALOG_PROMPT_LABEL), field, ok, cancel});
-    prepareField(box.widget(), field, initial, size - 1, isHidden);
+    prepareField(box.widget(), field, initial, mostCharacters, isHidden);
     box.answerOnPress(ok, 1);
     box.answerOnPress(cancel, 0);
     box.answerOnClose(0);

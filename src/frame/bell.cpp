@@ -12,5 +12,8 @@ constexpr int kVolume = 50;  // per cent
 
 void guiBeep(void)
 {
-    if (Display* const display = kite::session::display()) XBell(display, kVolume);
+    Display* const display = kite::session::display();
+    if (!display) return;
+    XBell(display, kVolume);
+    XFlush(display);  // heard now, also when the host computes on
 }

@@ -11,14 +11,15 @@ namespace kite {
 namespace {
 
 struct {
-    Cursor cursor = None;  // made on first use and kept
-    int generation = 0;    // the session that it belongs to
+    Cursor cursor = None;        // made on first use and kept
+    Display* display = nullptr;  // where
+    int generation = 0;          // and in which session
 } watch;
 
 Cursor watchCursor(Display* display)
 {
-    if (watch.generation != session::generation())
-        watch = {XCreateFontCursor(display, XC_watch), session::generation()};
+    if (watch.display != display || watch.generation != session::generation())
+        watch = {XCreateFontCursor(display, XC_watch), display, session::generation()};
     return watch.cursor;
 }
 

@@ -13,6 +13,7 @@
 #include "frame/top_window.h"
 #include "toolkit/resources.h"
 #include "toolkit/shells.h"
+#include "toolkit/widget_ref.h"
 
 namespace kite::frame {
 
@@ -22,10 +23,7 @@ void saveGeometry(Widget shell)
 {
     // The place of an icon is no place to open at.
     if (resource<Boolean>(shell, XmNiconic) || !settings::savesGeometry()) return;
-    const auto width = resource<Dimension>(shell, XmNwidth);
-    const auto height = resource<Dimension>(shell, XmNheight);
-    const auto position = decoratedPosition(shell);
-    settings::saveGeometry({position.x, position.y, width, height});
+    settings::saveGeometry(placeOf(shell));
 }
 
 // A dialog or box lives in a shell of its own below the window that it belongs to. A host's widget may
@@ -53,12 +51,13 @@ void closeTopWindow()
 void close()
 {
     Widget const shell = widgets().shell;
-    Widget const mainWindow = widgets().mainWindow;
+    const WidgetRef mainWindow{widgets().mainWindow};
     saveGeometry(shell);
     outputLog().stop();
+    if (!mainWindow) return;  // the host's services ran meanwhile, and closed it
     setMainWindow(nullptr);
     setTopWindow(nullptr);
-    XtUnmanageChild(mainWindow);
+    XtUnmanageChild(mainWindow.get());
     XtDestroyWidget(shell);
 }
 

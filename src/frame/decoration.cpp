@@ -3,6 +3,8 @@
 #include <Xm/Xm.h>
 #include <kitegui.h>
 
+#include <algorithm>
+
 #include "toolkit/resources.h"
 #include "toolkit/x_error_trap.h"
 
@@ -15,11 +17,17 @@ namespace kite {
 namespace {
 
 using savedGeometry::Position;
+using settings::Geometry;
+
+constexpr Geometry kNothing{-1, -1, -1, -1};
+
+Geometry requested = kNothing;  // set by requestPlace, until the window manager answers
 
 void structureChanged(Widget shell, XtPointer, XEvent* event, Boolean*)
 {
     if (event->type == ReparentNotify && event->xreparent.window == XtWindow(shell))
         decorWindow = static_cast<int>(event->xreparent.parent);
+    if (event->type == ConfigureNotify) requested = kNothing;
 }
 
 // A window that is gone stands nowhere: the same as an implausible place.
@@ -43,23 +51,56 @@ Position offsetInDecoration(Widget shell)
     return placeInParent(display, static_cast<Window>(decorWindow));
 }
 
+// Where the shell stands with its decoration, when one is known, else where it stands.
+Position decoratedPosition(Widget shell)
+{
+    const Position position{resource<::Position>(shell, XmNx), resource<::Position>(shell, XmNy)};
+    if (decorWindow == kNoDecoration) return position;
+    return savedGeometry::withDecoration(position, offsetInDecoration(shell));
+}
+
+void replaceIfGiven(int& value, int given)
+{
+    if (given >= 0) value = given;
+}
+
+void replaceGiven(Geometry& geometry, const Geometry& given)
+{
+    replaceIfGiven(geometry.x, given.x);
+    replaceIfGiven(geometry.y, given.y);
+    replaceIfGiven(geometry.width, given.width);
+    replaceIfGiven(geometry.height, given.height);
+}
+
 }  // namespace
 
 void watchDecoration(Widget shell)
 {
+    forgetDecoration();
     XtAddEventHandler(shell, StructureNotifyMask, False, structureChanged, nullptr);
 }
 
 void forgetDecoration()
 {
     decorWindow = kNoDecoration;
+    requested = kNothing;
 }
 
-savedGeometry::Position decoratedPosition(Widget shell)
+// Window managers keep to the least size that the shell tells them.
+void requestPlace(const Geometry& place)
 {
-    const Position position{resource<::Position>(shell, XmNx), resource<::Position>(shell, XmNy)};
-    if (decorWindow == kNoDecoration) return position;
-    return savedGeometry::withDecoration(position, offsetInDecoration(shell));
+    replaceGiven(requested, place);
+    if (place.width >= 0) requested.width = std::max(place.width, savedGeometry::kLeastWidth);
+    if (place.height >= 0) requested.height = std::max(place.height, savedGeometry::kLeastHeight);
+}
+
+Geometry placeOf(Widget shell)
+{
+    const Position corner = decoratedPosition(shell);
+    Geometry place{corner.x, corner.y, resource<Dimension>(shell, XmNwidth),
+                   resource<Dimension>(shell, XmNheight)};
+    replaceGiven(place, requested);
+    return place;
 }
 
 }  // namespace kite

@@ -1,4 +1,4 @@
-// decoration.h: the window that the window manager puts around the frame.
+// decoration.h: where the frame stands, with the window that the window manager puts around it.
 
 #pragma once
 
@@ -14,7 +14,12 @@ void watchDecoration(Widget shell);
 // The frame is gone, and its decoration with it.
 void forgetDecoration();
 
-// Where the shell stands with its decoration, when one is known, else where it stands.
-savedGeometry::Position decoratedPosition(Widget shell);
+// The host wants the frame there: the shell has these values when the window manager has answered.
+// Negative ones stay as they are.
+void requestPlace(const settings::Geometry& place);
+
+// Where the shell stands, or will stand: its corner with the decoration, when one is known, and its size
+// without.
+settings::Geometry placeOf(Widget shell);
 
 }  // namespace kite

@@ -25,11 +25,11 @@ void load(Display* display)
     fonts.output.load(display, settings::outputFont().c_str());
 }
 
-void release()
+void release(const Display* display)
 {
-    fonts.statusLine.release();
-    fonts.menuBar.release();
-    fonts.output.release();
+    fonts.statusLine.release(display);
+    fonts.menuBar.release(display);
+    fonts.output.release(display);
 }
 
 XmFontList statusLine()

@@ -8,7 +8,7 @@ namespace kite::frameFonts {
 
 // Loads those that are not loaded, by the names in the user's settings.
 void load(Display* display);
-void release();
+void release(const Display* display);
 
 // Null when the font could not be loaded: widgets then keep the toolkit's.
 XmFontList statusLine();

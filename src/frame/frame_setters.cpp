@@ -10,6 +10,7 @@
 #include <string>
 
 #include "frame/app_info.h"
+#include "frame/decoration.h"
 #include "frame/dispatcher.h"
 #include "frame/hover.h"
 #include "frame/main_frame.h"
@@ -142,6 +143,7 @@ int guiMoveWin(int x, int y, int w, int h)
     const bool isKnownY = y >= 0 && y == resource<Position>(shell, XmNy);
     frame::place(shell, {{{XmNx, x}, {XmNy, y}, {XmNwidth, w}, {XmNheight, h}}});
     if (isKnownX || isKnownY) frame::moveDecorated(shell, x, y);
+    requestPlace({x, y, w, h});
     XtMapWidget(shell);
     return 0;
 }
@@ -154,9 +156,9 @@ int guiRestart(void)
     frame::recreateToolbar();
     const frame::Widgets& widgets = frame::widgets();
     guiSetFrameTitle(nullptr);
-    frame::clearOutput(widgets.text);
-    frame::setStatusLine(widgets.statusLine, nullptr);
-    XmScaleSetValue(widgets.gauge, 0);
+    if (widgets.text) frame::clearOutput(widgets.text);
+    if (widgets.statusLine) frame::setStatusLine(widgets.statusLine, nullptr);
+    if (widgets.gauge) XmScaleSetValue(widgets.gauge, 0);
     XmUpdateDisplay(widgets.mainWindow);
     return 0;
 }

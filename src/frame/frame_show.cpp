@@ -46,11 +46,11 @@ void show()
     // Installed first: the main window gives no place to a toolbar that it does not know as one.
     XtVaSetValues(frame.mainWindow, XmNmenuBar, frame.menuBar, XmNcommandWindow, frame.toolbar,
                   nullptr);
-    XtManageChild(frame.menuBar);
+    if (frame.menuBar) XtManageChild(frame.menuBar);
     if (hasToolbar) XtManageChild(frame.toolbar);
-    if (hasToolbar) placeToolbar(frame);
-    XmTextSetInsertionPosition(frame.text, XmTextGetLastPosition(frame.text));
-    XFlush(XtDisplay(frame.text));
+    if (hasToolbar && frame.menuBar && frame.scroller) placeToolbar(frame);
+    if (frame.text) XmTextSetInsertionPosition(frame.text, XmTextGetLastPosition(frame.text));
+    XFlush(XtDisplay(frame.mainWindow));
 }
 
 }  // namespace kite::frame

@@ -4,7 +4,6 @@
 
 #include <string>
 
-#include "frame/session.h"
 #include "frame/top_window.h"
 #include "toolkit/colours.h"
 #include "toolkit/compound_string.h"
@@ -72,11 +71,12 @@ void setDelay(int milliseconds)
 
 void enterWithTip(const char* tip)
 {
-    if (state.delay < 0 || !session::application()) return;
+    XtAppContext const application = servedApplication();
+    if (state.delay < 0 || !application) return;
     leave();
     state.text = tip;
-    state.timer = XtAppAddTimeOut(session::application(), static_cast<unsigned long>(state.delay),
-                                  timedOut, nullptr);
+    state.timer =
+        XtAppAddTimeOut(application, static_cast<unsigned long>(state.delay), timedOut, nullptr);
 }
 
 void leave()

@@ -4,7 +4,6 @@
 
 #include "frame/dispatcher.h"
 #include "frame/hover.h"
-#include "frame/session.h"
 #include "frame/top_window.h"
 #include "toolkit/key_symbol.h"
 
@@ -40,12 +39,13 @@ void raiseFunctionKeyCommands(Widget text)
 
 int guiUserBreak(void)
 {
-    if (!kite::boxParent()) return 0;
+    Widget const window = kite::boxParent();
+    if (!window) return 0;
     // All of them are taken, also those behind the break: keys pressed during a computation that is
     // given up are not meant for what comes after it.
     int isBroken = 0;
     XEvent event;
-    while (XCheckTypedEvent(kite::session::display(), KeyPress, &event))
+    while (XCheckTypedEvent(XtDisplay(window), KeyPress, &event))
         if (kite::isUserBreak(&event.xkey)) isBroken = 1;
     return isBroken;
 }

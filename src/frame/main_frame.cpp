@@ -27,7 +27,7 @@ namespace {
 
 int readDropDownHeight = 0;  // set by guiInit
 
-Widgets frame;  // made by guiInit, emptied when the main window is destroyed
+Widgets frame;  // made by guiInit, each forgotten when it is destroyed
 
 [[noreturn]] void failAtStart(const char* message)
 {
@@ -60,10 +60,20 @@ void closeRequested(Widget, XtPointer, XtPointer)
         guiBeep();
 }
 
+constexpr Widget Widgets::*kParts[] = {&Widgets::shell,     &Widgets::mainWindow, &Widgets::menuBar,
+                                       &Widgets::toolbar,   &Widgets::scroller,   &Widgets::text,
+                                       &Widgets::statusBar, &Widgets::statusLine, &Widgets::gauge};
+
 // Xt may come to it late, when the host has built the next frame.
-void mainWindowDestroyed(Widget mainWindow, XtPointer, XtPointer)
+void partDestroyed(Widget widget, XtPointer, XtPointer)
 {
-    if (frame.mainWindow == mainWindow) frame = {};
+    for (Widget Widgets::*const part : kParts)
+        if (frame.*part == widget) frame.*part = nullptr;
+}
+
+void forgetWhenDestroyed(Widget widget)
+{
+    XtAddCallback(widget, XmNdestroyCallback, partDestroyed, nullptr);
 }
 
 // A host without any handler can still be closed.
@@ -81,7 +91,6 @@ void build()
     if (!frame.shell) failAtStart("Cannot create the application shell");
     frame.mainWindow = createMainWindow(frame.shell);
     if (!frame.mainWindow) failAtStart("Cannot create the main window");
-    XtAddCallback(frame.mainWindow, XmNdestroyCallback, mainWindowDestroyed, nullptr);
     setMainWindow(frame.mainWindow);
     setTopWindow(frame.mainWindow);
     onCloseRequest(frame.shell, closeRequested, nullptr);
@@ -90,6 +99,7 @@ void build()
     frameFonts::load(session::display());
     readDropDownHeight = settings::dropDownHeight();
     createContents(frame);
+    for (Widget Widgets::*const part : kParts) forgetWhenDestroyed(frame.*part);
     hover::setDelay(settings::hoverDelay());
     XtManageChild(frame.mainWindow);
     XtRealizeWidget(frame.shell);
@@ -112,6 +122,7 @@ void recreateToolbar()
 {
     if (frame.toolbar) XtDestroyWidget(frame.toolbar);
     frame.toolbar = createToolbar(frame.mainWindow);
+    forgetWhenDestroyed(frame.toolbar);
 }
 
 void dropToolbar()

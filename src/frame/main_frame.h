@@ -6,7 +6,8 @@
 
 namespace kite::frame {
 
-// The widgets of the frame; the toolbar is null while the host has made no button for it.
+// The widgets of the frame. The toolbar is null while the host has made no button for it, and any is
+// once it was destroyed.
 struct Widgets {
     Widget shell = nullptr;
     Widget mainWindow = nullptr;

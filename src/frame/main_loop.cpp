@@ -33,9 +33,10 @@ void endSession()
 {
     hover::cancel();
     periodicTimer::stop();
-    frameFonts::release();
+    frameFonts::release(session::display());
     forgetDecoration();
     dispatcher::setStarted(false);
+    forgetWindowsOf(session::ownDisplay());
     session::close();
 }
 

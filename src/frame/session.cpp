@@ -1,5 +1,7 @@
 #include "frame/session.h"
 
+#include <X11/StringDefs.h>
+
 #include <algorithm>
 #include <vector>
 
@@ -11,39 +13,69 @@ namespace kite::session {
 
 namespace {
 
+struct Connection {
+    XtAppContext application = nullptr;
+    Display* display = nullptr;
+};
+
 struct State {
-    XtAppContext application = nullptr;  // ours (open, close) or the owner's (setOwner)
-    Display* display = nullptr;          // the same
-    XtAppContext opened = nullptr;       // ours, from open() to close()
-    WidgetRef owner;                     // set by setOwner
-    int generation = 0;                  // raised by open() and setOwner()
-    bool dropsWarnings = false;          // set by dropToolkitWarnings, for contexts still to come
+    Connection opened;           // ours, from open() to close()
+    Connection current;          // ours or the owner's, whichever came last
+    WidgetRef owner;             // set by setOwner
+    int generation = 0;          // raised whenever current changes
+    bool dropsWarnings = false;  // set by dropToolkitWarnings, for contexts still to come
 };
 State& state = neverDestroyed<State>();
 
 void ignoreWarning(String) {}
+
+// Every display of the process that we have worked with, open or closed.
+std::vector<Display*>& knownDisplays()
+{
+    static std::vector<Display*> displays;
+    return displays;
+}
+
+bool isKnown(const Display* display)
+{
+    const std::vector<Display*>& known = knownDisplays();
+    return std::find(known.begin(), known.end(), display) != known.end();
+}
 
 // The toolkit keeps notes by a display's address, also of closed ones: a new connection at the address
 // of an old one would find them and fail. Connections that come up at such an address are held until
 // there is one at another.
 Display* openAtNewAddress()
 {
-    static std::vector<Display*> used;
     std::vector<Display*> held;
     Display* display = XOpenDisplay(nullptr);
-    while (display && std::find(used.begin(), used.end(), display) != used.end()) {
+    while (display && isKnown(display)) {
         held.push_back(display);
         display = XOpenDisplay(nullptr);
     }
     for (Display* const old : held) XCloseDisplay(old);
-    if (display) used.push_back(display);
     return display;
 }
 
-void applyWarningPolicy()
+void applyWarningPolicy(XtAppContext application)
 {
-    if (state.dropsWarnings && state.application)
-        XtAppSetWarningHandler(state.application, ignoreWarning);
+    if (state.dropsWarnings && application) XtAppSetWarningHandler(application, ignoreWarning);
+}
+
+void use(const Connection& connection)
+{
+    state.current = connection;
+    ++state.generation;
+    applyWarningPolicy(connection.application);
+    if (!connection.display) return;
+    if (!isKnown(connection.display)) knownDisplays().push_back(connection.display);
+    keepTimeOutsFromDrops(connection.display);
+}
+
+// Nobody says when the owner's display is closed: with the owner it is not ours to use any more.
+void ownerDestroyed(Widget owner, XtPointer, XtPointer)
+{
+    if (XtDisplayOfObject(owner) == state.current.display) use(state.opened);
 }
 
 }  // namespace
@@ -52,36 +84,29 @@ bool open(const char* applicationName, const char* applicationClass)
 {
     static const bool initialized = (XtToolkitInitialize(), true);
     static_cast<void>(initialized);
-    state.application = XtCreateApplicationContext();
-    state.opened = state.application;
-    ++state.generation;
-    applyWarningPolicy();
-
+    state.opened = {XtCreateApplicationContext(), openAtNewAddress()};
+    if (!state.opened.display) return false;
+    applyWarningPolicy(state.opened.application);  // what comes now may warn already
     char program[] = "vex";
     char* arguments[] = {program, nullptr};
     int count = 1;
-    state.display = openAtNewAddress();
-    if (!state.display) return false;
-    XtDisplayInitialize(state.application, state.display, applicationName, applicationClass,
-                        nullptr, 0, &count, arguments);
-    keepTimeOutsFromDrops(state.display);
+    XtDisplayInitialize(state.opened.application, state.opened.display, applicationName,
+                        applicationClass, nullptr, 0, &count, arguments);
+    use(state.opened);
     return true;
 }
 
 void close()
 {
-    if (!state.opened) return;
-    XtDestroyApplicationContext(state.opened);
-    if (state.application == state.opened) {
-        state.application = nullptr;
-        state.display = nullptr;
-    }
-    state.opened = nullptr;
+    if (!state.opened.application) return;
+    XtDestroyApplicationContext(state.opened.application);
+    if (state.current.application == state.opened.application) state.current = {};
+    state.opened = {};
 }
 
 bool isOpen()
 {
-    return state.opened != nullptr;
+    return state.opened.application != nullptr;
 }
 
 int generation()
@@ -89,24 +114,28 @@ int generation()
     return state.generation;
 }
 
+Display* ownDisplay()
+{
+    return state.opened.display;
+}
+
 Display* display()
 {
-    return state.display;
+    return state.current.display;
 }
 
 XtAppContext application()
 {
-    return state.application;
+    return state.current.application;
 }
 
 void setOwner(Widget owner)
 {
+    if (Widget const previous = state.owner.get())
+        XtRemoveCallback(previous, XtNdestroyCallback, ownerDestroyed, nullptr);
     state.owner.reset(owner);
-    state.application = XtWidgetToApplicationContext(owner);
-    state.display = XtDisplayOfObject(owner);
-    keepTimeOutsFromDrops(state.display);
-    ++state.generation;
-    applyWarningPolicy();
+    XtAddCallback(owner, XtNdestroyCallback, ownerDestroyed, nullptr);
+    use({XtWidgetToApplicationContext(owner), XtDisplayOfObject(owner)});
 }
 
 Widget owner()
@@ -114,10 +143,15 @@ Widget owner()
     return state.owner.get();
 }
 
+void forgetOwner()
+{
+    state.owner.reset();
+}
+
 void dropToolkitWarnings()
 {
     state.dropsWarnings = true;
-    applyWarningPolicy();
+    applyWarningPolicy(state.current.application);
 }
 
 }  // namespace kite::session

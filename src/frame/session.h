@@ -19,6 +19,9 @@ bool isOpen();
 // not used with the next one.
 int generation();
 
+// Ours, also while an owner's is the current one; null when none is open.
+Display* ownDisplay();
+
 // Both null while there is neither a session nor an owner.
 Display* display();
 XtAppContext application();
@@ -26,6 +29,7 @@ XtAppContext application();
 // A host with an Xt application of its own lends us its display, context and a parent for boxes.
 void setOwner(Widget owner);
 Widget owner();
+void forgetOwner();
 
 // From now on toolkit warnings go nowhere.
 void dropToolkitWarnings();

@@ -3,7 +3,7 @@
 #include <kitegui.h>
 
 #include "frame/dispatcher.h"
-#include "frame/session.h"
+#include "frame/top_window.h"
 
 namespace kite::periodicTimer {
 
@@ -12,8 +12,9 @@ namespace {
 constexpr int kShortestInterval = 100;  // milliseconds; less means no timer
 
 struct {
-    int interval = 0;     // set by guiTimer
-    XtIntervalId id = 0;  // the running time-out, 0 while its event is being handled
+    int interval = 0;                    // set by guiTimer
+    XtIntervalId id = 0;                 // the running time-out, 0 while its event is being handled
+    XtAppContext application = nullptr;  // where it runs
 } state;
 
 void arm();
@@ -28,9 +29,10 @@ void fired(XtPointer, XtIntervalId*)
 
 void arm()
 {
-    if (state.interval < kShortestInterval || !session::application()) return;
-    state.id = XtAppAddTimeOut(session::application(), static_cast<unsigned long>(state.interval),
-                               fired, nullptr);
+    state.application = servedApplication();
+    if (state.interval < kShortestInterval || !state.application) return;
+    state.id = XtAppAddTimeOut(state.application, static_cast<unsigned long>(state.interval), fired,
+                               nullptr);
 }
 
 }  // namespace
@@ -39,6 +41,11 @@ void stop()
 {
     if (state.id) XtRemoveTimeOut(state.id);
     state = {};
+}
+
+void stopIn(XtAppContext application)
+{
+    if (state.application == application) stop();
 }
 
 }  // namespace kite::periodicTimer

@@ -48,6 +48,20 @@ Widget boxParent()
     return parent ? parent : session::owner();
 }
 
+XtAppContext servedApplication()
+{
+    Widget const main = mainWindow();
+    return main ? XtWidgetToApplicationContext(main) : session::application();
+}
+
+void forgetWindowsOf(const Display* display)
+{
+    Widget const top = state.top.get();
+    if (top && XtDisplayOfObject(top) == display) setTopWindow(nullptr);
+    Widget const owner = session::owner();
+    if (owner && XtDisplayOfObject(owner) == display) session::forgetOwner();
+}
+
 TopWindowScope::TopWindowScope(Widget window)
     : previous_(topWindow()), hadPrevious_(static_cast<bool>(previous_))
 {

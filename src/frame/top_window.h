@@ -19,6 +19,12 @@ void setTopWindow(Widget window);
 // What a new box belongs to: the top window, else the owner that the host gave, else null.
 Widget boxParent();
 
+// Where time-outs are served: in the application of the frame, else in the owner's. Null without either.
+XtAppContext servedApplication();
+
+// The display is about to be closed: forgets a top window and an owner there.
+void forgetWindowsOf(const Display* display);
+
 // Makes a widget the top window, and restores the previous one at the end, when that one still exists.
 class TopWindowScope {
 public:

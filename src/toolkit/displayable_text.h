@@ -10,6 +10,9 @@ namespace kite {
 // process. The limit is 256 KiB on the smallest servers; no screen shows a text of 64.
 constexpr std::size_t kLongestDisplayableText = 65535;  // bytes
 
+// The same for a text that is edited in one line, where more of it is worth having.
+constexpr int kLongestEditableText = 250000;  // bytes
+
 // The beginning of the text, up to that limit; empty for null.
 std::string displayableText(const char* text);
 

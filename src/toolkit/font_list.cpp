@@ -4,28 +4,38 @@ namespace kite {
 
 void FontList::load(Display* display, const char* fontName)
 {
-    if (list_ && display_ == display) return;
-    abandon();
-    font_ = XLoadQueryFont(display, fontName);
-    if (!font_) return;
+    if (display_ != display) abandon();
+    if (list_ && name_ == fontName) return;
+    freeList();
     display_ = display;
+    name_ = fontName;
+    XFontStruct* const font = XLoadQueryFont(display, fontName);
+    if (!font) return;
+    fonts_.push_back(font);
     XmFontListEntry entry =
-        XmFontListEntryCreate(const_cast<char*>(XmFONTLIST_DEFAULT_TAG), XmFONT_IS_FONT, font_);
+        XmFontListEntryCreate(const_cast<char*>(XmFONTLIST_DEFAULT_TAG), XmFONT_IS_FONT, font);
     list_ = XmFontListAppendEntry(nullptr, entry);
     XmFontListEntryFree(&entry);
 }
 
-void FontList::release()
+void FontList::release(const Display* display)
 {
-    if (font_) XFreeFont(display_, font_);
+    if (display_ == display)
+        for (XFontStruct* const font : fonts_) XFreeFont(display_, font);
     abandon();
 }
 
 void FontList::abandon()
 {
+    freeList();
+    fonts_.clear();
+    display_ = nullptr;
+}
+
+void FontList::freeList()
+{
     if (list_) XmFontListFree(list_);
     list_ = nullptr;
-    font_ = nullptr;
 }
 
 }  // namespace kite

@@ -110,7 +110,7 @@ TEST_F(ProfileDamage, KeptProfileHasItsModeAndTheNewOneThatOfNewFiles)
 TEST_F(ProfileDamage, RefusedNameLeavesTheDamagedProfileInPlace)
 {
     putProfile("damaged");
-    kxSetUPInt("a", "x=", 1);
+    kxSetUPInt("a", "", 1);
     EXPECT_EQ(namesIn(directory), std::vector<std::string>{"profile.ini"});
 }
 

@@ -90,6 +90,7 @@ void Profile::writeInt(const std::string& section, const std::string& key, int v
 {
     accesses_.push_back({ProfileAccess::Kind::WriteInt, section, key, value});
     integers_[{section, key}] = value;
+    if (const auto action = onWrite_) action();  // a copy: the action may set another one
 }
 
 std::optional<std::string> Profile::readString(const std::string& section, const std::string& key,

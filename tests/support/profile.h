@@ -6,6 +6,7 @@
 
 #pragma once
 
+#include <functional>
 #include <iosfwd>
 #include <map>
 #include <optional>
@@ -48,6 +49,9 @@ public:
     std::vector<ProfileAccess> writes() const;
     void clearAccesses() { accesses_.clear(); }
 
+    // What the host does besides when the library writes.
+    void onWrite(const std::function<void()>& action) { onWrite_ = action; }
+
     // The services of the host, recorded.
     int readInt(const std::string& section, const std::string& key, int whenAbsent);
     void writeInt(const std::string& section, const std::string& key, int value);
@@ -60,6 +64,7 @@ private:
     std::map<Name, int> integers_;
     std::map<Name, std::string> strings_;
     std::vector<ProfileAccess> accesses_;
+    std::function<void()> onWrite_;
 };
 
 }  // namespace kite::testing

@@ -50,7 +50,10 @@ void askManager(Client client, const char* message, long first, long second = 0)
 Window showMwmMenu(Client client, Point button)
 {
     const Point inMenu = clientRect(client).corner() + Point{8, 8};
-    const auto outermost = [&] { return windowsAt(inMenu).at(0); };
+    const auto outermost = [&] {
+        const std::vector<Window> windows = windowsAt(inMenu);
+        return windows.empty() ? 0 : windows.front();
+    };
     const Window covered = outermost();
     constexpr int kMostClicks = 5;
     constexpr seconds kTimeToShow{1};
@@ -64,8 +67,7 @@ Window showMwmMenu(Client client, Point button)
     return 0;
 }
 
-// The menu's last item closes. A double click on the button does as well, but its second click may go
-// to the menu that the first one shows.
+// The menu's last item closes.
 void closeByMwmMenu(Client client, Point button)
 {
     const Window menu = showMwmMenu(client, button);

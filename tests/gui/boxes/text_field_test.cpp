@@ -165,3 +165,20 @@ GUI_TEST(TextField, TakesClicksOfTheMouse)
         EXPECT_EQ(textOf(field), "xabc");
     });
 }
+
+// A longer text would be one drawing request that no server takes.
+GUI_TEST(TextField, TakesNoMoreThanCanBeDrawn)
+{
+    constexpr std::size_t kMost = 250000;
+    std::vector<char> buffer(1000000, '\0');
+    std::fill_n(buffer.begin(), 300000, 'a');
+    app.whenShown("v_promptbox", [](Shown box) {
+        Widget const field = partOf(box.widget(), XmDIALOG_TEXT);
+        EXPECT_EQ(resource<int>(field, XmNmaxLength), static_cast<int>(kMost));
+        box.type("b");
+        box.key(XK_Return);
+    });
+    EXPECT_EQ(guiGetTextBox("Say it", buffer.data(), static_cast<int>(buffer.size()), 0),
+              static_cast<int>(kMost));
+    EXPECT_EQ(std::string(buffer.data()), std::string(kMost, 'a'));
+}

@@ -3,6 +3,7 @@
 #include <Xm/Text.h>
 
 #include "events_support.h"
+#include "ignored_leaks.h"
 
 using namespace kite::testing;
 using ::testing::IsEmpty;
@@ -153,4 +154,95 @@ GUI_TEST(Owner, DoesNotTakeBoxesFromTheFrame)
         box.key(XK_Return);
     });
     guiInfoBox("Belongs to the top window");
+}
+
+// Its own loop serves another application: the timer is one of the frame's.
+GUI_TEST(Owner, LeavesTheTimerToTheFrame)
+{
+    Widget const mainWindow = guiGetTopWnd();
+    const OwnApplication own;
+    guiSetOwner(own.shell());
+    guiTimer(100);
+    toolkit::attach(mainWindow);
+    EXPECT_TRUE(pumpUntil([&] { return recorder.count(GUI_EVENT_TIMER) >= 2; }));
+}
+
+namespace {
+
+void expectNobodyAtHome()
+{
+    EXPECT_EQ(guiGetTopWnd(), nullptr);
+    EXPECT_EQ(guiYesNoBox("?"), GUI_NO);
+    EXPECT_EQ(guiUserBreak(), 0);
+    guiBeep();
+    guiTimer(100);
+    guiTimer(0);
+}
+
+}  // namespace
+
+GUI_STARTUP_TEST(Owner, ThatIsGoneWithItsDisplayIsNone)
+{
+    {
+        const OwnApplication own;
+        guiSetOwner(own.shell());
+        guiTimer(100);
+        app.whenShown("v_infobox", [](Shown box) { box.key(XK_Return); });
+        guiInfoBox("Still here");
+    }
+    expectNobodyAtHome();
+    app.run([&] {
+        guiTimer(100);
+        EXPECT_TRUE(pumpUntil([&] { return recorder.count(GUI_EVENT_TIMER) >= 1; }));
+    });
+}
+
+GUI_STARTUP_TEST(Owner, ThatGoesLeavesTheFrameItsDisplay)
+{
+    app.run([&] {
+        Widget const mainWindow = guiGetTopWnd();
+        {
+            const OwnApplication own;
+            guiSetOwner(own.shell());
+        }
+        toolkit::attach(mainWindow);
+        guiBeep();
+        app.whenShown("v_infobox", [](Shown box) { box.key(XK_Return); });
+        guiInfoBox("On the frame");
+        EXPECT_EQ(guiUserBreak(), 0);
+    });
+}
+
+namespace {
+
+// A window of the host's on the frame's display, which is closed with the frame.
+Widget makeShellBesideTheFrame()
+{
+    Widget const shell =
+        XtVaAppCreateShell("beside", "Beside", applicationShellWidgetClass, toolkit::display(),
+                           XmNwidth, 100, XmNheight, 100, nullptr);
+    XtRealizeWidget(shell);
+    return shell;
+}
+
+}  // namespace
+
+GUI_STARTUP_TEST(Owner, OnTheDisplayOfTheFrameGoesWithIt)
+{
+    const IgnoredLeaks widgetsOfAClosedDisplay;
+    app.run([] { guiSetOwner(makeShellBesideTheFrame()); });
+    expectNobodyAtHome();
+    app.run([] {});
+}
+
+GUI_STARTUP_TEST(Owner, NoTopWindowOutlivesItsDisplay)
+{
+    const IgnoredLeaks widgetsOfAClosedDisplay;
+    app.run([] {
+        Widget const beside = makeShellBesideTheFrame();
+        guiClose(0);
+        guiSetTopWnd(beside);
+    });
+    expectNobodyAtHome();
+    app.run([] {});
 }

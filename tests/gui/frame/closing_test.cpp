@@ -95,3 +95,18 @@ GUI_STARTUP_TEST(Closing, BeforeTheStartIsSafe)
     EXPECT_EQ(guiGetTopWnd(), nullptr);
     EXPECT_EQ(host.profile().writes().size(), 4U);
 }
+
+// The host reports that it cannot save, and the user closes the report and the frame.
+GUI_STARTUP_TEST(Closing, WithinItsOwnSavingIsSafe)
+{
+    host.profile().onWrite([&] {
+        host.profile().onWrite(nullptr);
+        app.whenShown("v_infobox", [](Shown) {
+            guiClose(0);
+            guiClose(0);
+        });
+        guiInfoBox("Cannot save");
+        EXPECT_EQ(guiGetTopWnd(), nullptr);
+    });
+    EXPECT_EQ(app.run([] { guiClose(0); }), 0);
+}

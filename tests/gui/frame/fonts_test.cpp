@@ -136,6 +136,19 @@ GUI_STARTUP_TEST(FrameFonts, AreReadAnewForTheNextFrame)
     app.run([] { EXPECT_EQ(fontOf("v_text"), fontNameFor("8x13")); });
 }
 
+// Also in a session that goes on, of a host with a loop of its own.
+GUI_STARTUP_TEST(FrameFonts, AreReadAnewWithoutAMainLoop)
+{
+    app.init();
+    EXPECT_EQ(fontOf("v_text"), fontNameFor(kFixed));
+    guiClose(0);
+    host.profile().setString("fnamt", "8x13");
+    guiInit(Recorder::hostCallback());
+    toolkit::attach(guiGetTopWnd());
+    EXPECT_EQ(fontNameOf(findWidget("v_text", guiGetTopWnd()), XmNfontList), fontNameFor("8x13"));
+    app.run([] {});
+}
+
 GUI_STARTUP_TEST(FrameFonts, ShowOnTheScreen)
 {
     host.profile().setString("fnamm", kCourier);

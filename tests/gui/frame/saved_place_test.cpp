@@ -124,3 +124,51 @@ GUI_STARTUP_TEST(SavedPlace, IsSavedAgainAfterTheIconIsOpened)
     });
     EXPECT_EQ(host.profile().writes().size(), 4U);
 }
+
+// The window manager has not answered yet when the frame goes.
+GUI_STARTUP_TEST(SavedPlace, OfAFrameClosedAtOnceIsWhereTheHostPutIt)
+{
+    app.run([] {
+        guiMoveWin(200, 150, 500, 400);
+        guiMoveWin(-1, 140, -1, -1);
+        guiClose(0);
+    });
+    EXPECT_EQ(savedPlace(), (Rect{200, 140, 500, 400}));
+}
+
+GUI_STARTUP_TEST(SavedPlace, OfAFrameMadeTooSmallIsTheLeastSize)
+{
+    app.run([] {
+        guiMoveWin(200, 150, 100, 50);
+        guiClose(0);
+    });
+    EXPECT_EQ(savedPlace(), (Rect{200, 150, 300, 200}));
+}
+
+GUI_STARTUP_TEST(SavedPlace, OfAFrameThatTheUserMovesLaterIsTheUsers)
+{
+    Rect expected;
+    app.run([&] {
+        guiMoveWin(200, 150, 500, 400);
+        ASSERT_TRUE(pumpUntil([] { return outside().x == 200 && outside().y == 150; }));
+        ASSERT_TRUE(isToldItsPlace());
+        ASSERT_TRUE(dragTo({260, 190}));
+        expected = {260, 190, 500, 400};
+    });
+    EXPECT_EQ(savedPlace(), expected);
+}
+
+// A host with a loop of its own opens the next frame in the same session.
+GUI_STARTUP_TEST(SavedPlace, OfAFrameClosedAtOnceIsNotTakenForTheLastOnes)
+{
+    app.init();
+    ASSERT_TRUE(pumpUntil([] { return decorWindow != 666; }));
+    guiClose(0);
+    host.profile().setInt("mwndx", 120, "kite");
+    host.profile().setInt("mwndy", 90, "kite");
+    guiInit(Recorder::hostCallback());
+    EXPECT_EQ(decorWindow, 666);
+    guiClose(0);
+    EXPECT_EQ(savedPlace().x, 120);
+    EXPECT_EQ(savedPlace().y, 90);
+}

@@ -168,3 +168,18 @@ GUI_STARTUP_TEST(WrongMoment, BeforeTheStartTheFrameWorks)
     EXPECT_EQ(guiMoveWin(-1, -1, 500, 400), 0);
     EXPECT_TRUE(pumpUntil([&] { return wm::clientRect(app.shell()).width == 500; }));
 }
+
+// A host that has destroyed what is not its own.
+GUI_STARTUP_TEST(WrongMoment, PartsThatAreGoneAreLeftAlone)
+{
+    for (const char* const part :
+         {"v_menubar", "v_toolbar", "v_scroll", "v_text", "v_statusbar", "v_sline", "v_gauge"}) {
+        recorder.onEvent(GUI_EVENT_INIT, [&] { XtDestroyWidget(findWidget(part)); });
+        EXPECT_EQ(app.run([] {
+            settle();
+            callSetters();
+        }),
+                  0)
+            << part;
+    }
+}
