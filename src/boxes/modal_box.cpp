@@ -57,7 +57,7 @@ void ModalBox::removeParts(std::initializer_list<unsigned char> parts)
 
 void ModalBox::useDialogFont(std::initializer_list<Widget> parts)
 {
-    for (Widget const part : parts) frameFonts::apply(part, frameFonts::dialog());
+    for (Widget const part : parts) frameFonts::apply(part, frameFonts::Use::Dialog);
 }
 
 void ModalBox::finishButtons(ButtonWidth width, const std::vector<Widget>& buttons)

@@ -1,4 +1,4 @@
-// frame_fonts.h: the three fonts of the frame, which dialogs and boxes share.
+// frame_fonts.h: the three fonts of the frame, which dialogs and boxes share, on each display in use.
 
 #pragma once
 
@@ -6,19 +6,19 @@
 
 namespace kite::frameFonts {
 
-// Loads those that are not loaded, by the names in the user's settings.
+enum class Use { StatusLine, MenuBar, Output, Dialog };
+
+// Loads those that are not loaded on the display, by the names in the user's settings.
 void load(Display* display);
-void release(const Display* display);
+
+// Frees those of the display, or forgets them when it may be closed already.
+void release(Display* display);
+void forget(Display* display);
 
 // Null when the font could not be loaded: widgets then keep the toolkit's.
-XmFontList statusLine();
-XmFontList menuBar();
-XmFontList output();
+XmFontList of(Widget widget, Use use);
 
-// Boxes and dialogs are in the status line's font.
-XmFontList dialog();
-
-// Gives a widget one of these fonts, when there is one.
-void apply(Widget widget, XmFontList font);
+// Gives a widget one of the fonts, when there is one.
+void apply(Widget widget, Use use);
 
 }  // namespace kite::frameFonts

@@ -48,7 +48,7 @@ Widget createOutputText(Widget scroller)
                                           XmMULTI_LINE_EDIT, XmNeditable, True, XmNblinkRate, 0,
                                           XmNforeground, blackPixel(scroller), XmNbackground,
                                           whitePixel(scroller), nullptr);
-    frameFonts::apply(text, frameFonts::output());
+    frameFonts::apply(text, frameFonts::Use::Output);
     showInsertionCursorWithFocus(text);
     raiseFunctionKeyCommands(text);
     acceptFileDrops(text);
@@ -63,7 +63,7 @@ Widget createStatusLine(Widget statusBar)
         XmALIGNMENT_BEGINNING, XmNrecomputeSize, False, XmNleftAttachment, XmATTACH_FORM,
         XmNtopAttachment, XmATTACH_FORM, XmNbottomAttachment, XmATTACH_FORM, XmNrightAttachment,
         XmATTACH_POSITION, XmNrightPosition, kStatusLineEnd, nullptr);
-    frameFonts::apply(line, frameFonts::statusLine());
+    frameFonts::apply(line, frameFonts::Use::StatusLine);
     return line;
 }
 
@@ -118,7 +118,7 @@ Widget createToolbar(Widget mainWindow)
 void createContents(Widgets& frame)
 {
     // A menu bar has no font of its own: its buttons look for the shell's.
-    if (XmFontList const font = frameFonts::menuBar())
+    if (XmFontList const font = frameFonts::of(frame.shell, frameFonts::Use::MenuBar))
         XtVaSetValues(frame.shell, XmNbuttonFontList, font, nullptr);
     frame.menuBar = createMenuBar(frame.mainWindow);
     frame.toolbar = createToolbar(frame.mainWindow);

@@ -33,7 +33,7 @@ void endSession()
 {
     hover::cancel();
     periodicTimer::stop();
-    frameFonts::release(session::display());
+    frameFonts::release(session::ownDisplay());
     forgetDecoration();
     dispatcher::setStarted(false);
     forgetWindowsOf(session::ownDisplay());

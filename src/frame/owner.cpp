@@ -10,9 +10,11 @@
 
 namespace {
 
-// Its application may go next, and nobody says so: no time-out may be left there.
+// Its display and application may go next, and nobody says so: nothing may be left there.
 void ownerDestroyed(Widget owner, XtPointer, XtPointer)
 {
+    Display* const display = XtDisplayOfObject(owner);
+    if (display != kite::session::ownDisplay()) kite::frameFonts::forget(display);
     kite::hover::cancel();
     kite::periodicTimer::stopIn(XtWidgetToApplicationContext(owner));
 }

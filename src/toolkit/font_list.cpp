@@ -1,13 +1,13 @@
 #include "toolkit/font_list.h"
 
+#include <utility>
+
 namespace kite {
 
 void FontList::load(Display* display, const char* fontName)
 {
-    if (display_ != display) abandon();
     if (list_ && name_ == fontName) return;
     freeList();
-    display_ = display;
     name_ = fontName;
     XFontStruct* const font = XLoadQueryFont(display, fontName);
     if (!font) return;
@@ -18,18 +18,10 @@ void FontList::load(Display* display, const char* fontName)
     XmFontListEntryFree(&entry);
 }
 
-void FontList::release(const Display* display)
-{
-    if (display_ == display)
-        for (XFontStruct* const font : fonts_) XFreeFont(display_, font);
-    abandon();
-}
-
-void FontList::abandon()
+void FontList::release(Display* display)
 {
     freeList();
-    fonts_.clear();
-    display_ = nullptr;
+    for (XFontStruct* const font : std::exchange(fonts_, {})) XFreeFont(display, font);
 }
 
 void FontList::freeList()

@@ -78,6 +78,14 @@ void closeByMwmMenu(Client client, Point button)
     Robot::instance().click();
 }
 
+// A Motif shell asks for keys when it has heard that it has the focus: what is typed before goes nowhere.
+bool takesKeys(Window window)
+{
+    XWindowAttributes attributes{};
+    return XGetWindowAttributes(connection(), window, &attributes) &&
+           (attributes.all_event_masks & KeyPressMask);
+}
+
 bool isOverrideRedirect(Window window)
 {
     XWindowAttributes attributes{};
@@ -139,25 +147,30 @@ bool waitForFocus(Client client)
 {
     if (kind() == Kind::NoManager && isViewable(client.window))
         XSetInputFocus(connection(), client.window, RevertToPointerRoot, CurrentTime);
-    return pumpUntil([&] { return hasFocus(client); });
+    constexpr int kMostTries = 10;
+    for (int i = 0; i < kMostTries; ++i) {
+        if (!pumpUntil([&] { return hasFocus(client) && takesKeys(client.window); })) return false;
+        awaitManager();
+        if (hasFocus(client)) return true;
+    }
+    return false;
 }
 
-// It answers every wish for a size, in order, also for the size that the window has.
-void awaitManager(Client client)
+// It is asked, in order, about every window that wants to be elsewhere, also one that is not shown.
+void awaitManager()
 {
     settle();  // what the application has not sent yet, the manager has not been told
     if (kind() == Kind::NoManager) return;
-    Display* const display = connection();
-    const Rect rect = clientRect(client);
-    XSelectInput(display, client.window, StructureNotifyMask);
-    XResizeWindow(display, client.window, static_cast<unsigned>(rect.width),
-                  static_cast<unsigned>(rect.height));
-    const bool isAnswered = pumpUntil([&] {
+    static const Window probe =
+        XCreateSimpleWindow(connection(), rootWindow(), 0, 0, 1, 1, 0, 0, 0);
+    static int x = 0;
+    XSelectInput(connection(), probe, StructureNotifyMask);
+    XMoveWindow(connection(), probe, ++x % 2, 0);
+    const bool isAnswered = pumpUntil([] {
         XEvent event;
-        return XCheckTypedWindowEvent(display, client.window, ConfigureNotify, &event);
+        return XCheckTypedWindowEvent(connection(), probe, ConfigureNotify, &event);
     });
     EXPECT_TRUE(isAnswered) << "The window manager does not answer.";
-    XSelectInput(display, client.window, NoEventMask);
 }
 
 Window frameOf(Client client)

@@ -36,13 +36,14 @@ bool isSettled(Client client);
 bool waitUntilSettled(Client client);
 
 // True when keys that are pressed go to the window or one of its parts. Without a window manager nobody
-// gives a new window the focus: waitForFocus does.
+// gives a new window the focus: waitForFocus does. A manager that is busy with several windows may pass
+// the focus on once more: waitForFocus sees that it stays.
 bool hasFocus(Client client);
 bool waitForFocus(Client client);
 
 // Returns when the manager has handled everything that it was told before: a window that has gone keeps
-// it busy for a while, also when the next one has got the focus.
-void awaitManager(Client client);
+// it busy for a while.
+void awaitManager();
 
 // The outermost window around the client; itself when there is no decoration.
 Window frameOf(Client client);

@@ -77,7 +77,7 @@ GUI_TEST(BoxBlocks, OuterBox)
         EXPECT_EQ(guiYesNoBox("Inner?"), 1);
         EXPECT_TRUE(isShown(outer.widget()));
         // The manager keeps clicks away until it has seen the inner box go.
-        wm::awaitManager(outer.widget());
+        wm::awaitManager();
         outer.click("OK");
     });
     guiInfoBox("Outer");
