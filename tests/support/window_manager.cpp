@@ -294,6 +294,7 @@ void moveTo(Client client, Point frameCorner)
     constexpr seconds kTimeToFollow{1};  // unless the manager stops it on the way
     pumpUntil([&] { return frameRect(client) == start.movedBy(way); }, kTimeToFollow * kSlowness);
     robot.release();
+    awaitManager();  // until it lets go of the pointer
 }
 
 Window waitForWindow(const std::string& title)
