@@ -24,8 +24,9 @@ void ownerDestroyed(Widget owner, XtPointer, XtPointer)
 void guiSetOwner(GuiWidget owner)
 {
     if (!owner) return;
+    if (Widget const previous = kite::session::owner())
+        XtRemoveCallback(previous, XtNdestroyCallback, ownerDestroyed, nullptr);
     kite::session::setOwner(owner);
-    XtRemoveCallback(owner, XtNdestroyCallback, ownerDestroyed, nullptr);
     XtAddCallback(owner, XtNdestroyCallback, ownerDestroyed, nullptr);
     kite::frameFonts::load(kite::session::display());
 }

@@ -246,3 +246,41 @@ GUI_STARTUP_TEST(Owner, NoTopWindowOutlivesItsDisplay)
     expectNobodyAtHome();
     app.run([] {});
 }
+
+namespace {
+
+// The font that the library gave a button: one of its own, by its address.
+const void* fontOf(Widget button)
+{
+    XmFontContext context = nullptr;
+    if (!XmFontListInitFontContext(&context, resource<XmFontList>(button, XmNfontList)))
+        return nullptr;
+    XmFontType type{};
+    const void* const font = XmFontListEntryGetFont(XmFontListNextEntry(context), &type);
+    XmFontListFreeFontContext(context);
+    return font;
+}
+
+}  // namespace
+
+// The display and its fonts are the new owner's.
+GUI_STARTUP_TEST(Owner, OldOneMayGo)
+{
+    const OwnApplication own;
+    Widget const old = XtVaCreateWidget("old", xmTextWidgetClass, own.shell(), nullptr);
+    guiSetOwner(old);
+    guiSetOwner(own.shell());
+    const auto fontOfBox = [&] {
+        const void* font = nullptr;
+        app.whenShown("v_infobox", [&](Shown box) {
+            font = fontOf(box.child("OK"));
+            box.key(XK_Return);
+        });
+        guiInfoBox("Whose font?");
+        return font;
+    };
+    const void* const before = fontOfBox();
+    ASSERT_NE(before, nullptr);
+    XtDestroyWidget(old);
+    EXPECT_EQ(fontOfBox(), before);
+}
