@@ -19,11 +19,12 @@ namespace kite::frame {
 
 namespace {
 
+// The settings are the host's: it may close the frame when it is asked for one.
 void saveGeometry(Widget shell)
 {
     // The place of an icon is no place to open at.
     if (resource<Boolean>(shell, XmNiconic) || !settings::savesGeometry()) return;
-    settings::saveGeometry(placeOf(shell));
+    if (widgets().shell == shell) settings::saveGeometry(placeOf(shell));
 }
 
 // A dialog or box lives in a shell of its own below the window that it belongs to. A host's widget may

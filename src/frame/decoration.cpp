@@ -21,13 +21,17 @@ using settings::Geometry;
 
 constexpr Geometry kNothing{-1, -1, -1, -1};
 
-Geometry requested = kNothing;  // set by requestPlace, until the window manager answers
+// What the host has asked for: set by noteRequest, until the window manager answers.
+struct {
+    Geometry wanted = kNothing;
+    Geometry before = kNothing;  // of the shell
+} request;
 
 void structureChanged(Widget shell, XtPointer, XEvent* event, Boolean*)
 {
     if (event->type == ReparentNotify && event->xreparent.window == XtWindow(shell))
         decorWindow = static_cast<int>(event->xreparent.parent);
-    if (event->type == ConfigureNotify) requested = kNothing;
+    if (event->type == ConfigureNotify) request = {};
 }
 
 // A window that is gone stands nowhere: the same as an implausible place.
@@ -49,6 +53,12 @@ Position offsetInDecoration(Widget shell)
     if (inner.x != 0 || inner.y != 0) return inner;
     // Some window managers put one more window between the decoration and the shell.
     return placeInParent(display, static_cast<Window>(decorWindow));
+}
+
+Geometry ownPlaceOf(Widget shell)
+{
+    return {resource<::Position>(shell, XmNx), resource<::Position>(shell, XmNy),
+            resource<Dimension>(shell, XmNwidth), resource<Dimension>(shell, XmNheight)};
 }
 
 // Where the shell stands with its decoration, when one is known, else where it stands.
@@ -83,23 +93,27 @@ void watchDecoration(Widget shell)
 void forgetDecoration()
 {
     decorWindow = kNoDecoration;
-    requested = kNothing;
+    request = {};
 }
 
-// Window managers keep to the least size that the shell tells them.
-void requestPlace(const Geometry& place)
+void noteRequest(Widget shell, const Geometry& place)
 {
-    replaceGiven(requested, place);
-    if (place.width >= 0) requested.width = std::max(place.width, savedGeometry::kLeastWidth);
-    if (place.height >= 0) requested.height = std::max(place.height, savedGeometry::kLeastHeight);
+    request.before = ownPlaceOf(shell);
+    replaceGiven(request.wanted, place);
+    // Window managers keep to the least size that the shell tells them.
+    if (place.width >= 0) request.wanted.width = std::max(place.width, savedGeometry::kLeastWidth);
+    if (place.height >= 0)
+        request.wanted.height = std::max(place.height, savedGeometry::kLeastHeight);
 }
 
 Geometry placeOf(Widget shell)
 {
+    Geometry place = ownPlaceOf(shell);
+    const bool isAnswered = place != request.before;
     const Position corner = decoratedPosition(shell);
-    Geometry place{corner.x, corner.y, resource<Dimension>(shell, XmNwidth),
-                   resource<Dimension>(shell, XmNheight)};
-    replaceGiven(place, requested);
+    place.x = corner.x;
+    place.y = corner.y;
+    if (!isAnswered) replaceGiven(place, request.wanted);
     return place;
 }
 

@@ -14,9 +14,9 @@ void watchDecoration(Widget shell);
 // The frame is gone, and its decoration with it.
 void forgetDecoration();
 
-// The host wants the frame there: the shell has these values when the window manager has answered.
-// Negative ones stay as they are.
-void requestPlace(const settings::Geometry& place);
+// The host is about to ask for this place: the shell has these values when the window manager has
+// answered. Negative ones stay as they are.
+void noteRequest(Widget shell, const settings::Geometry& place);
 
 // Where the shell stands, or will stand: its corner with the decoration, when one is known, and its size
 // without.

@@ -16,7 +16,7 @@ struct Fonts {
     FontList output;
 };
 
-// Filled by load(), emptied by release() and forget(). An owner's display may be another than the frame's.
+// Filled by load(), emptied by release(). An owner's display may be another than the frame's.
 std::map<Display*, Fonts>& fontsOn = neverDestroyed<std::map<Display*, Fonts>>();
 
 const FontList& chosen(const Fonts& fonts, Use use)
@@ -45,11 +45,6 @@ void release(Display* display)
     Fonts& fonts = fontsOn[display];
     for (FontList* const font : {&fonts.statusLine, &fonts.menuBar, &fonts.output})
         font->release(display);
-    fontsOn.erase(display);
-}
-
-void forget(Display* display)
-{
     fontsOn.erase(display);
 }
 

@@ -11,9 +11,8 @@ enum class Use { StatusLine, MenuBar, Output, Dialog };
 // Loads those that are not loaded on the display, by the names in the user's settings.
 void load(Display* display);
 
-// Frees those of the display, or forgets them when it may be closed already.
+// Frees those of the display, which is still open.
 void release(Display* display);
-void forget(Display* display);
 
 // Null when the font could not be loaded: widgets then keep the toolkit's.
 XmFontList of(Widget widget, Use use);

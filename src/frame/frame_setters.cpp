@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <string>
+#include <utility>
 
 #include "frame/app_info.h"
 #include "frame/decoration.h"
@@ -51,23 +52,26 @@ void setStatusLine(Widget line, const char* text)
     XtVaSetValues(line, XmNlabelString, label.get(), nullptr);
 }
 
-struct Placement {
-    char* resource;
-    int value;  // negative: as it is
-};
+// Negative values leave the shell as it is.
+settings::Geometry clamped(const settings::Geometry& place)
+{
+    return {std::min(place.x, kLargestCoordinate), std::min(place.y, kLargestCoordinate),
+            std::min(place.width, kLargestCoordinate), std::min(place.height, kLargestCoordinate)};
+}
 
 // All at once: the window manager answers every change, and what it makes of one would be changed by
 // the next.
-void place(Widget shell, const std::array<Placement, 4>& placements)
+void place(Widget shell, const settings::Geometry& place)
 {
+    const std::pair<char*, int> wanted[] = {
+        {XmNx, place.x}, {XmNy, place.y}, {XmNwidth, place.width}, {XmNheight, place.height}};
     std::array<Arg, 5> arguments{};
     Cardinal count = 0;
     XtSetArg(arguments[count], XmNiconic, False);
     ++count;
-    for (const Placement& placement : placements) {
-        if (placement.value < 0) continue;
-        XtSetArg(arguments[count], placement.resource,
-                 std::min(placement.value, kLargestCoordinate));
+    for (const auto& [resource, value] : wanted) {
+        if (value < 0) continue;
+        XtSetArg(arguments[count], resource, value);
         ++count;
     }
     XtSetValues(shell, arguments.data(), count);
@@ -76,8 +80,8 @@ void place(Widget shell, const std::array<Placement, 4>& placements)
 void moveBy(Widget shell, int x, int y, int offset)
 {
     XWindowChanges place{};
-    place.x = std::min(x, kLargestCoordinate) + offset;
-    place.y = std::min(y, kLargestCoordinate) + offset;
+    place.x = x + offset;
+    place.y = y + offset;
     const unsigned int given = (x >= 0 ? CWX : 0U) | (y >= 0 ? CWY : 0U);
     XConfigureWindow(XtDisplay(shell), XtWindow(shell), given, &place);
 }
@@ -87,8 +91,18 @@ void moveBy(Widget shell, int x, int y, int offset)
 // when they hear of the place where the client is: they hear of another one first.
 void moveDecorated(Widget shell, int x, int y)
 {
-    moveBy(shell, x, y, 1);
+    moveBy(shell, x, y, -1);
     moveBy(shell, x, y, 0);
+}
+
+void moveAndResize(Widget shell, const settings::Geometry& wanted)
+{
+    const bool isKnownX = wanted.x >= 0 && wanted.x == resource<Position>(shell, XmNx);
+    const bool isKnownY = wanted.y >= 0 && wanted.y == resource<Position>(shell, XmNy);
+    noteRequest(shell, wanted);
+    place(shell, wanted);
+    if (isKnownX || isKnownY) moveDecorated(shell, wanted.x, wanted.y);
+    XtMapWidget(shell);
 }
 
 // The shell takes itself for an icon until the window manager's word for the opposite is read, and does
@@ -134,17 +148,11 @@ void guiSetProgress(int percent)
 int guiMoveWin(int x, int y, int w, int h)
 {
     Widget const shell = frame::widgets().shell;
-    if (!shell) return 0;
-    if (w == 0 || h == 0) {
+    if (!shell || !XtIsRealized(shell)) return 0;
+    if (w == 0 || h == 0)
         frame::iconify(shell);
-        return 0;
-    }
-    const bool isKnownX = x >= 0 && x == resource<Position>(shell, XmNx);
-    const bool isKnownY = y >= 0 && y == resource<Position>(shell, XmNy);
-    frame::place(shell, {{{XmNx, x}, {XmNy, y}, {XmNwidth, w}, {XmNheight, h}}});
-    if (isKnownX || isKnownY) frame::moveDecorated(shell, x, y);
-    requestPlace({x, y, w, h});
-    XtMapWidget(shell);
+    else
+        frame::moveAndResize(shell, frame::clamped({x, y, w, h}));
     return 0;
 }
 

@@ -26,6 +26,7 @@ namespace kite::frame {
 namespace {
 
 int readDropDownHeight = 0;  // set by guiInit
+bool isInStart = false;      // while guiInit builds the frame
 
 Widgets frame;  // made by guiInit, each forgotten when it is destroyed
 
@@ -91,8 +92,6 @@ void build()
     if (!frame.shell) failAtStart("Cannot create the application shell");
     frame.mainWindow = createMainWindow(frame.shell);
     if (!frame.mainWindow) failAtStart("Cannot create the main window");
-    setMainWindow(frame.mainWindow);
-    setTopWindow(frame.mainWindow);
     onCloseRequest(frame.shell, closeRequested, nullptr);
     watchDecoration(frame.shell);
 
@@ -101,6 +100,9 @@ void build()
     createContents(frame);
     for (Widget Widgets::*const part : kParts) forgetWhenDestroyed(frame.*part);
     hover::setDelay(settings::hoverDelay());
+    // From here on there is a frame: the host's services, which were asked until now, have not seen it.
+    setMainWindow(frame.mainWindow);
+    setTopWindow(frame.mainWindow);
     XtManageChild(frame.mainWindow);
     XtRealizeWidget(frame.shell);
 }
@@ -133,6 +135,7 @@ void dropToolbar()
 
 void start(GuiHandler callback)
 {
+    isInStart = true;
     dispatcher::setHostCallback(callback);
     dispatcher::setFrameActions({show, closeUnhandled});
     dispatcher::setStarted(false);
@@ -143,12 +146,18 @@ void start(GuiHandler callback)
     if (settings::startupHook() > 0) runStartupHook();
     startLog();
     build();
+    isInStart = false;
+}
+
+bool isStarting()
+{
+    return isInStart;
 }
 
 }  // namespace kite::frame
 
 void guiInit(GuiHandler callback)
 {
-    if (kite::mainWindow() || kite::isLoopRunning()) return;
+    if (kite::mainWindow() || kite::isLoopRunning() || kite::frame::isStarting()) return;
     kite::frame::start(callback);
 }

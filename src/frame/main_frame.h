@@ -23,6 +23,9 @@ struct Widgets {
 // All null before the frame is built and once it is closed.
 const Widgets& widgets();
 
+// While guiInit builds the frame and asks the host for its settings: there is none yet.
+bool isStarting();
+
 // The height of drop-down lists, in eighths: read once, when the frame is built.
 int dropDownHeight();
 

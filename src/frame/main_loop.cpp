@@ -36,7 +36,7 @@ void endSession()
     frameFonts::release(session::ownDisplay());
     forgetDecoration();
     dispatcher::setStarted(false);
-    forgetWindowsOf(session::ownDisplay());
+    forgetTopWindowOf(session::ownDisplay());
     session::close();
 }
 
@@ -51,7 +51,7 @@ bool isLoopRunning()
 
 int guiStart(GuiHandler handler)
 {
-    if (!kite::session::isOpen() || kite::isRunning) return GUI_FAILED;
+    if (!kite::session::isOpen() || kite::isRunning || kite::frame::isStarting()) return GUI_FAILED;
     kite::isRunning = true;
     if (kite::mainWindow()) kite::runUntilClosed(handler);  // else it was closed before it ran
     kite::endSession();

@@ -1,6 +1,5 @@
 // owner.cpp: a host that has an Xt application of its own.
 
-#include <X11/StringDefs.h>
 #include <kitegui.h>
 
 #include "frame/frame_fonts.h"
@@ -10,13 +9,12 @@
 
 namespace {
 
-// Its display and application may go next, and nobody says so: nothing may be left there.
-void ownerDestroyed(Widget owner, XtPointer, XtPointer)
+// Nothing of ours may be left there.
+void ownerGone(Display* display, XtAppContext application)
 {
-    Display* const display = XtDisplayOfObject(owner);
-    if (display != kite::session::ownDisplay()) kite::frameFonts::forget(display);
+    if (display != kite::session::ownDisplay()) kite::frameFonts::release(display);
     kite::hover::cancel();
-    kite::periodicTimer::stopIn(XtWidgetToApplicationContext(owner));
+    kite::periodicTimer::stopIn(application);
 }
 
 }  // namespace
@@ -24,9 +22,6 @@ void ownerDestroyed(Widget owner, XtPointer, XtPointer)
 void guiSetOwner(GuiWidget owner)
 {
     if (!owner) return;
-    if (Widget const previous = kite::session::owner())
-        XtRemoveCallback(previous, XtNdestroyCallback, ownerDestroyed, nullptr);
-    kite::session::setOwner(owner);
-    XtAddCallback(owner, XtNdestroyCallback, ownerDestroyed, nullptr);
+    kite::session::setOwner(owner, ownerGone);
     kite::frameFonts::load(kite::session::display());
 }

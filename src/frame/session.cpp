@@ -3,8 +3,10 @@
 #include <X11/StringDefs.h>
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
+#include "toolkit/display_closing.h"
 #include "toolkit/drop_time_out.h"
 #include "toolkit/never_destroyed.h"
 #include "toolkit/widget_ref.h"
@@ -21,7 +23,9 @@ struct Connection {
 struct State {
     Connection opened;           // ours, from open() to close()
     Connection current;          // ours or the owner's, whichever came last
-    WidgetRef owner;             // set by setOwner
+    WidgetRef owner;             // set by setOwner, until it or its display goes
+    Connection owners;           // of the owner
+    OwnerGone ownerGone{};       // from setOwner
     int generation = 0;          // raised whenever current changes
     bool dropsWarnings = false;  // set by dropToolkitWarnings, for contexts still to come
 };
@@ -72,10 +76,27 @@ void use(const Connection& connection)
     keepTimeOutsFromDrops(connection.display);
 }
 
-// Nobody says when the owner's display is closed: with the owner it is not ours to use any more.
-void ownerDestroyed(Widget owner, XtPointer, XtPointer)
+// What can be used of the owner's, still can.
+void ownerGoes()
 {
-    if (XtDisplayOfObject(owner) == state.current.display) use(state.opened);
+    state.ownerGone(state.owners.display, state.owners.application);
+    if (state.current.display == state.owners.display) use(state.opened);
+    state.owners = {};
+}
+
+// The host may close its display next: with the owner it is not ours to use any more.
+void ownerDestroyed(Widget, XtPointer, XtPointer)
+{
+    ownerGoes();
+    state.owner.reset();
+}
+
+// A host may also close its display and leave its widgets.
+void displayCloses(Display* display)
+{
+    if (state.owners.display != display) return;
+    ownerGoes();
+    state.owner.abandon();
 }
 
 }  // namespace
@@ -99,9 +120,9 @@ bool open(const char* applicationName, const char* applicationClass)
 void close()
 {
     if (!state.opened.application) return;
-    XtDestroyApplicationContext(state.opened.application);
-    if (state.current.application == state.opened.application) state.current = {};
-    state.opened = {};
+    const Connection closing = std::exchange(state.opened, {});
+    if (state.current.application == closing.application) state.current = {};
+    XtDestroyApplicationContext(closing.application);
 }
 
 bool isOpen()
@@ -129,23 +150,21 @@ XtAppContext application()
     return state.current.application;
 }
 
-void setOwner(Widget owner)
+void setOwner(Widget owner, OwnerGone whenGone)
 {
     if (Widget const previous = state.owner.get())
         XtRemoveCallback(previous, XtNdestroyCallback, ownerDestroyed, nullptr);
-    state.owner.reset(owner);
     XtAddCallback(owner, XtNdestroyCallback, ownerDestroyed, nullptr);
-    use({XtWidgetToApplicationContext(owner), XtDisplayOfObject(owner)});
+    state.owner.reset(owner);
+    state.owners = {XtWidgetToApplicationContext(owner), XtDisplayOfObject(owner)};
+    state.ownerGone = whenGone;
+    callBeforeClosing(state.owners.display, displayCloses);
+    use(state.owners);
 }
 
 Widget owner()
 {
     return state.owner.get();
-}
-
-void forgetOwner()
-{
-    state.owner.reset();
 }
 
 void dropToolkitWarnings()

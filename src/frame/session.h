@@ -27,9 +27,10 @@ Display* display();
 XtAppContext application();
 
 // A host with an Xt application of its own lends us its display, context and a parent for boxes.
-void setOwner(Widget owner);
+// whenGone is called when the owner or its display goes, while both can still be used.
+using OwnerGone = void (*)(Display* display, XtAppContext application);
+void setOwner(Widget owner, OwnerGone whenGone);
 Widget owner();
-void forgetOwner();
 
 // From now on toolkit warnings go nowhere.
 void dropToolkitWarnings();

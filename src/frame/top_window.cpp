@@ -44,8 +44,9 @@ void setTopWindow(Widget window)
 Widget boxParent()
 {
     Widget parent = topWindow();
+    if (!parent) parent = session::owner();
     while (parent && !XtIsWidget(parent)) parent = XtParent(parent);  // a gadget has no children
-    return parent ? parent : session::owner();
+    return parent;
 }
 
 XtAppContext servedApplication()
@@ -54,12 +55,10 @@ XtAppContext servedApplication()
     return main ? XtWidgetToApplicationContext(main) : session::application();
 }
 
-void forgetWindowsOf(const Display* display)
+void forgetTopWindowOf(const Display* display)
 {
     Widget const top = state.top.get();
     if (top && XtDisplayOfObject(top) == display) setTopWindow(nullptr);
-    Widget const owner = session::owner();
-    if (owner && XtDisplayOfObject(owner) == display) session::forgetOwner();
 }
 
 TopWindowScope::TopWindowScope(Widget window)

@@ -22,8 +22,8 @@ Widget boxParent();
 // Where time-outs are served: in the application of the frame, else in the owner's. Null without either.
 XtAppContext servedApplication();
 
-// The display is about to be closed: forgets a top window and an owner there.
-void forgetWindowsOf(const Display* display);
+// The display is about to be closed: forgets a top window there.
+void forgetTopWindowOf(const Display* display);
 
 // Makes a widget the top window, and restores the previous one at the end, when that one still exists.
 class TopWindowScope {

@@ -17,9 +17,10 @@ Widget WidgetRef::get() const
     return widget_ && !widget_->core.being_destroyed ? widget_ : nullptr;
 }
 
-void WidgetRef::destroyed(Widget, XtPointer self, XtPointer)
+void WidgetRef::destroyed(Widget widget, XtPointer self, XtPointer)
 {
-    static_cast<WidgetRef*>(self)->widget_ = nullptr;
+    auto& ref = *static_cast<WidgetRef*>(self);
+    if (ref.widget_ == widget) ref.widget_ = nullptr;
 }
 
 }  // namespace kite

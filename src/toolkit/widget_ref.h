@@ -21,6 +21,10 @@ public:
 
     void reset(Widget widget = nullptr);
 
+    // Empties a reference that lives on, without a word to the toolkit: the display of the widget is about
+    // to be closed, and the toolkit knows nothing of it any more.
+    void abandon() { widget_ = nullptr; }
+
     // The widget, or null once its destruction has begun.
     Widget get() const;
     explicit operator bool() const { return get() != nullptr; }

@@ -80,9 +80,11 @@ std::vector<ProfileAccess> Profile::writes() const
     return some;
 }
 
+// The actions are called by copies: one may set another.
 int Profile::readInt(const std::string& section, const std::string& key, int whenAbsent)
 {
     accesses_.push_back({ProfileAccess::Kind::ReadInt, section, key, whenAbsent});
+    if (const auto action = onRead_) action(key);
     return find(integers_, section, key).value_or(whenAbsent);
 }
 
@@ -90,13 +92,14 @@ void Profile::writeInt(const std::string& section, const std::string& key, int v
 {
     accesses_.push_back({ProfileAccess::Kind::WriteInt, section, key, value});
     integers_[{section, key}] = value;
-    if (const auto action = onWrite_) action();  // a copy: the action may set another one
+    if (const auto action = onWrite_) action();
 }
 
 std::optional<std::string> Profile::readString(const std::string& section, const std::string& key,
                                                int size)
 {
     accesses_.push_back({ProfileAccess::Kind::ReadString, section, key, size});
+    if (const auto action = onRead_) action(key);
     return find(strings_, section, key);
 }
 

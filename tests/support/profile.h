@@ -49,8 +49,9 @@ public:
     std::vector<ProfileAccess> writes() const;
     void clearAccesses() { accesses_.clear(); }
 
-    // What the host does besides when the library writes.
+    // What the host does besides when the library writes or reads.
     void onWrite(const std::function<void()>& action) { onWrite_ = action; }
+    void onRead(const std::function<void(const std::string& key)>& action) { onRead_ = action; }
 
     // The services of the host, recorded.
     int readInt(const std::string& section, const std::string& key, int whenAbsent);
@@ -65,6 +66,7 @@ private:
     std::map<Name, std::string> strings_;
     std::vector<ProfileAccess> accesses_;
     std::function<void()> onWrite_;
+    std::function<void(const std::string& key)> onRead_;
 };
 
 }  // namespace kite::testing

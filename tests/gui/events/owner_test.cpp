@@ -1,5 +1,7 @@
 // guiSetOwner: a host with an Xt application of its own, in this process.
 
+#include <Xm/Form.h>
+#include <Xm/LabelG.h>
 #include <Xm/Text.h>
 
 #include "events_support.h"
@@ -195,6 +197,46 @@ GUI_STARTUP_TEST(Owner, ThatIsGoneWithItsDisplayIsNone)
         guiTimer(100);
         EXPECT_TRUE(pumpUntil([&] { return recorder.count(GUI_EVENT_TIMER) >= 1; }));
     });
+}
+
+// The host leaves its widgets to the end of the process.
+GUI_STARTUP_TEST(Owner, WhoseDisplayIsClosedIsNone)
+{
+    const IgnoredLeaks widgetsOfAClosedDisplay;
+    XtAppContext context = nullptr;
+    char program[] = "own";
+    char* arguments[] = {program, nullptr};
+    int count = 1;
+    Widget const shell = XtVaOpenApplication(&context, "Own", nullptr, 0, &count, arguments,
+                                             nullptr, applicationShellWidgetClass, nullptr);
+    XtVaSetValues(shell, XmNwidth, 100, XmNheight, 100, nullptr);
+    XtRealizeWidget(shell);
+    guiSetOwner(shell);
+    guiTimer(100);
+    XtCloseDisplay(XtDisplay(shell));
+    expectNobodyAtHome();
+    XtDestroyApplicationContext(context);
+    app.run([] {});
+}
+
+GUI_STARTUP_TEST(Owner, MayBeAGadget)
+{
+    const OwnApplication own;
+    Widget const shell =
+        XtVaAppCreateShell("other", "Other", applicationShellWidgetClass, XtDisplay(own.shell()),
+                           XmNwidth, 200, XmNheight, 100, nullptr);
+    Widget const form = XtVaCreateManagedWidget("form", xmFormWidgetClass, shell, nullptr);
+    Widget const gadget = XtVaCreateManagedWidget("gadget", xmLabelGadgetClass, form, nullptr);
+    XtRealizeWidget(shell);
+    toolkit::attach(shell);
+    Script::instance().arm();
+    guiSetOwner(gadget);
+    app.whenShown("v_askbox", [&](Shown shown) {
+        EXPECT_EQ(XtParent(shown.shell()), form);
+        shown.click("Yes");
+    });
+    EXPECT_EQ(guiYesNoBox("?"), GUI_YES);
+    XtDestroyWidget(shell);
 }
 
 GUI_STARTUP_TEST(Owner, ThatGoesLeavesTheFrameItsDisplay)

@@ -110,3 +110,19 @@ GUI_STARTUP_TEST(Closing, WithinItsOwnSavingIsSafe)
     });
     EXPECT_EQ(app.run([] { guiClose(0); }), 0);
 }
+
+// Asked whether to save, the host closes the frame.
+GUI_STARTUP_TEST(Closing, WithinTheQuestionWhetherToSaveIsSafe)
+{
+    const auto closeOnce = [&](const std::string& key) {
+        if (key != "mwndp") return;
+        host.profile().onRead(nullptr);
+        guiClose(0);
+        EXPECT_EQ(guiGetTopWnd(), nullptr);
+    };
+    EXPECT_EQ(app.run([&] {
+        host.profile().onRead(closeOnce);
+        guiClose(0);
+    }),
+              0);
+}

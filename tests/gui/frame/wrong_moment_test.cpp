@@ -183,3 +183,21 @@ GUI_STARTUP_TEST(WrongMoment, PartsThatAreGoneAreLeftAlone)
             << part;
     }
 }
+
+// The host is asked for its settings while the frame is built: no frame is to be seen yet.
+GUI_STARTUP_TEST(WrongMoment, HostServicesOfTheStartFindNoFrame)
+{
+    int calls = 0;
+    host.profile().onRead([&](const std::string&) {
+        ++calls;
+        EXPECT_EQ(guiGetTopWnd(), nullptr);
+        EXPECT_EQ(guiStart(Recorder::windowHandler()), -1);
+        guiInit(Recorder::hostCallback());
+        guiClose(0);
+        callSetters();
+    });
+    app.init();
+    host.profile().onRead(nullptr);
+    EXPECT_GE(calls, 10);
+    EXPECT_EQ(app.run([&] { EXPECT_EQ(recorder.count(toWindow(GUI_EVENT_INIT)), 1); }), 0);
+}
