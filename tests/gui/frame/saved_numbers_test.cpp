@@ -72,6 +72,30 @@ GUI_STARTUP_TEST(SavedNumbers, AreThoseAtTheEnd)
                                                      writes("mwndw", 420), writes("mwndh", 320)));
 }
 
+// Not those that the host asked for, where the frame got others.
+GUI_STARTUP_TEST(SavedNumbers, AreWhatTheFrameHas)
+{
+    app.run([&] {
+        guiMoveWin(32768, 40000, 100, 50);
+        ASSERT_TRUE(pumpUntil([&] { return rectOf(app.shell()) == Rect(32767, 32767, 100, 50); }));
+    });
+    EXPECT_THAT(host.profile().writes(),
+                ElementsAre(writes("mwndx", 32767), writes("mwndy", 32767), writes("mwndw", 100),
+                            writes("mwndh", 50)));
+}
+
+GUI_STARTUP_TEST(SavedNumbers, TakeTheDecorationIntoAccountAfterAMoveAsWell)
+{
+    app.run([&] {
+        guiMoveWin(100, 80, 420, 320);
+        ASSERT_TRUE(pumpUntil([&] { return rectOf(app.shell()) == Rect(100, 80, 420, 320); }));
+        settle();
+        decorWindow = windowAt({35, 10});  // further than any decoration reaches
+    });
+    EXPECT_EQ(host.profile().intOf("mwndx"), 0);
+    EXPECT_EQ(host.profile().intOf("mwndy"), 0);
+}
+
 GUI_STARTUP_TEST(SavedNumbers, AreNotWrittenWhenTheSettingForbids)
 {
     host.profile().setInt("mwndp", 0);
