@@ -2,13 +2,12 @@
 
 #include <X11/StringDefs.h>
 
-#include <algorithm>
 #include <utility>
-#include <vector>
 
 #include "toolkit/display_closing.h"
 #include "toolkit/drop_time_out.h"
 #include "toolkit/never_destroyed.h"
+#include "toolkit/new_display.h"
 #include "toolkit/widget_ref.h"
 
 namespace kite::session {
@@ -33,34 +32,6 @@ State& state = neverDestroyed<State>();
 
 void ignoreWarning(String) {}
 
-// Every display of the process that we have worked with, open or closed.
-std::vector<Display*>& knownDisplays()
-{
-    static std::vector<Display*> displays;
-    return displays;
-}
-
-bool isKnown(const Display* display)
-{
-    const std::vector<Display*>& known = knownDisplays();
-    return std::find(known.begin(), known.end(), display) != known.end();
-}
-
-// The toolkit keeps notes by a display's address, also of closed ones: a new connection at the address
-// of an old one would find them and fail. Connections that come up at such an address are held until
-// there is one at another.
-Display* openAtNewAddress()
-{
-    std::vector<Display*> held;
-    Display* display = XOpenDisplay(nullptr);
-    while (display && isKnown(display)) {
-        held.push_back(display);
-        display = XOpenDisplay(nullptr);
-    }
-    for (Display* const old : held) XCloseDisplay(old);
-    return display;
-}
-
 void applyWarningPolicy(XtAppContext application)
 {
     if (state.dropsWarnings && application) XtAppSetWarningHandler(application, ignoreWarning);
@@ -72,7 +43,7 @@ void use(const Connection& connection)
     ++state.generation;
     applyWarningPolicy(connection.application);
     if (!connection.display) return;
-    if (!isKnown(connection.display)) knownDisplays().push_back(connection.display);
+    noteDisplay(connection.display);
     keepTimeOutsFromDrops(connection.display);
 }
 
@@ -105,7 +76,7 @@ bool open(const char* applicationName, const char* applicationClass)
 {
     static const bool initialized = (XtToolkitInitialize(), true);
     static_cast<void>(initialized);
-    state.opened = {XtCreateApplicationContext(), openAtNewAddress()};
+    state.opened = {XtCreateApplicationContext(), openNewDisplay()};
     if (!state.opened.display) return false;
     applyWarningPolicy(state.opened.application);  // what comes now may warn already
     char program[] = "vex";
