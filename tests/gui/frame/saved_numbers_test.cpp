@@ -79,9 +79,8 @@ GUI_STARTUP_TEST(SavedNumbers, AreWhatTheFrameHas)
         guiMoveWin(32768, 40000, 100, 50);
         ASSERT_TRUE(pumpUntil([&] { return rectOf(app.shell()) == Rect(32767, 32767, 100, 50); }));
     });
-    EXPECT_THAT(host.profile().writes(),
-                ElementsAre(writes("mwndx", 32767), writes("mwndy", 32767), writes("mwndw", 100),
-                            writes("mwndh", 50)));
+    EXPECT_THAT(host.profile().writes(), ElementsAre(writes("mwndx", 32767), writes("mwndy", 32767),
+                                                     writes("mwndw", 100), writes("mwndh", 50)));
 }
 
 GUI_STARTUP_TEST(SavedNumbers, TakeTheDecorationIntoAccountAfterAMoveAsWell)
