@@ -14,7 +14,7 @@ using Figures = std::map<std::string, double>;  // time, and the counters by nam
 
 struct Pair {
     std::string work;
-    Figures bare, library;
+    Figures bare, ours;
 };
 
 class PairReporter : public benchmark::ConsoleReporter {
@@ -40,7 +40,7 @@ private:
         const std::string& name = run.run_name.function_name;
         const auto slash = name.rfind('/');
         Pair& pair = pairFor(name.substr(0, slash));
-        Figures& figures = name.substr(slash + 1) == "bare" ? pair.bare : pair.library;
+        Figures& figures = name.substr(slash + 1) == "bare" ? pair.bare : pair.ours;
         for (const auto& [counter, value] : run.counters) figures[counter] = value;
         const std::string unit = benchmark::GetTimeUnitString(run.time_unit);
         figures["time, " + unit] = run.GetAdjustedRealTime();
@@ -55,8 +55,8 @@ private:
 
     static void printPair(const Pair& pair, const std::string& figure, double bare)
     {
-        const auto found = pair.library.find(figure);
-        if (found == pair.library.end()) return;
+        const auto found = pair.ours.find(figure);
+        if (found == pair.ours.end()) return;
         std::printf("| %s | %s | %.3f | %.3f | %.2f |\n", pair.work.c_str(), figure.c_str(), bare,
                     found->second, found->second / bare);
     }

@@ -49,6 +49,16 @@ bool pumpUntil(const Condition& condition, milliseconds deadline)
     return true;
 }
 
+bool waitUntil(const Condition& condition, milliseconds deadline)
+{
+    const auto end = Clock::now() + deadline;
+    while (!condition()) {
+        if (Clock::now() >= end) return condition();
+        std::this_thread::sleep_for(kLookAgain);
+    }
+    return true;
+}
+
 bool holdsFor(const Condition& condition, milliseconds time)
 {
     return !pumpUntil([&] { return !condition(); }, time);

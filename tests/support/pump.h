@@ -1,7 +1,7 @@
 // pump.h: waiting, while the application under test goes on running.
 //
-// All of these process the events of the application under test when this process has one. They may be
-// called from anywhere on its thread: inside a handler, a timer or a step of a script.
+// Unless they say otherwise, these process the events of the application under test when this process has
+// one. They may be called from anywhere on its thread: inside a handler, a timer or a step of a script.
 
 #pragma once
 
@@ -15,6 +15,9 @@ using Condition = std::function<bool()>;
 
 // Waits until the condition holds. False when it did not within the deadline: assert the result.
 bool pumpUntil(const Condition& condition, milliseconds deadline = patience());
+
+// The same while the application processes nothing, as if it were computing.
+bool waitUntil(const Condition& condition, milliseconds deadline = patience());
 
 // Waits for the whole time, as long as the condition holds. For "nothing happens": keep it short.
 bool holdsFor(const Condition& condition, milliseconds time);

@@ -15,6 +15,13 @@ GUI_TEST(Beep, RingsTheBellAtVolumeFifty)
     EXPECT_THAT(bell.rings(), ElementsAre(50));
 }
 
+GUI_TEST(Beep, RingsAtOnceWhileTheHostComputes)
+{
+    BellWatch bell;
+    guiBeep();
+    EXPECT_TRUE(waitUntil([&] { return !bell.rings().empty(); }));
+}
+
 GUI_TEST(Beep, RingsEachTime)
 {
     BellWatch bell;

@@ -2,14 +2,13 @@
 
 #include <X11/Xatom.h>
 
-#include <chrono>
 #include <fstream>
 #include <regex>
 #include <sstream>
-#include <thread>
 
 #include "connection.h"
-#include "patience.h"
+#include "host_double.h"
+#include "pump.h"
 #include "widgets.h"
 
 namespace kite::testing {
@@ -65,12 +64,16 @@ std::string fontNameFor(const std::string& pattern)
 
 bool changesByItself(const Rect& rect, const screen::Picture& before)
 {
-    const auto end = std::chrono::steady_clock::now() + patience();
-    while (screen::grab(rect) == before) {
-        if (std::chrono::steady_clock::now() >= end) return false;
-        std::this_thread::sleep_for(milliseconds{1});
-    }
-    return true;
+    return waitUntil([&] { return screen::grab(rect) != before; });
+}
+
+void savePlace(const Rect& place)
+{
+    Profile& profile = HostDouble::instance().profile();
+    profile.setInt("mwndx", place.x, "kite");
+    profile.setInt("mwndy", place.y, "kite");
+    profile.setInt("mwndw", place.width, "kite");
+    profile.setInt("mwndh", place.height, "kite");
 }
 
 }  // namespace kite::testing

@@ -27,4 +27,7 @@ std::string fontNameFor(const std::string& pattern);
 // no event meanwhile.
 bool changesByItself(const Rect& rect, const screen::Picture& before);
 
+// Puts the place into the profile, as an earlier run has left it.
+void savePlace(const Rect& place);
+
 }  // namespace kite::testing

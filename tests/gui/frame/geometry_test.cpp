@@ -2,6 +2,7 @@
 
 #include <climits>
 
+#include "frame_checks.h"
 #include "gui_test.h"
 
 using namespace kite::testing;
@@ -12,14 +13,11 @@ constexpr int kScreenWidth = 1280;
 constexpr int kScreenHeight = 1024;
 constexpr Rect kCentred{(kScreenWidth - 450) / 2, (kScreenHeight - 300) / 2, 450, 300};
 
-void save(const Rect& rect)
+// For good: the frame does not save another one.
+void keep(const Rect& rect)
 {
-    Profile& profile = HostDouble::instance().profile();
-    profile.setInt("mwndx", rect.x, "kite");
-    profile.setInt("mwndy", rect.y, "kite");
-    profile.setInt("mwndw", rect.width, "kite");
-    profile.setInt("mwndh", rect.height, "kite");
-    profile.setInt("mwndp", 0, "kite");
+    savePlace(rect);
+    HostDouble::instance().profile().setInt("mwndp", 0, "kite");
 }
 
 Rect placeOfFrame()
@@ -32,20 +30,20 @@ Rect placeOfFrame()
 
 void expectKept(const Rect& saved)
 {
-    save(saved);
+    keep(saved);
     EXPECT_EQ(placeOfFrame(), saved);
 }
 
 // As a whole: nothing of it is used.
 void expectRejected(const Rect& saved)
 {
-    save(saved);
+    keep(saved);
     EXPECT_EQ(placeOfFrame(), kCentred);
 }
 
 void expectRejectedWithout(const char* key)
 {
-    save({100, 50, 640, 480});
+    keep({100, 50, 640, 480});
     HostDouble::instance().profile().remove(key);
     EXPECT_EQ(placeOfFrame(), kCentred);
 }
@@ -189,7 +187,7 @@ GUI_STARTUP_TEST(SavedPlace, WithoutHeightIsRejected)
 
 GUI_STARTUP_TEST(SavedPlace, IsWhereTheFrameWasClosed)
 {
-    save({100, 50, 640, 480});
+    keep({100, 50, 640, 480});
     host.profile().setInt("mwndp", 1, "kite");
     EXPECT_EQ(placeOfFrame(), (Rect{100, 50, 640, 480}));
     EXPECT_EQ(placeOfFrame(), (Rect{100, 50, 640, 480}));

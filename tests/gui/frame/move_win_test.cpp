@@ -164,11 +164,19 @@ GUI_TEST(MoveWin, IconifiesWhatTheUserHasJustBroughtBack)
     ASSERT_TRUE(isIconic());
     settle();
     wm::deiconify(toolkit::root());
-    const auto end = std::chrono::steady_clock::now() + patience();
-    while (!wm::isSettled(toolkit::root()) && std::chrono::steady_clock::now() < end) continue;
-    ASSERT_TRUE(wm::isSettled(toolkit::root()));
+    ASSERT_TRUE(waitUntil([] { return wm::isSettled(toolkit::root()); }));
     guiMoveWin(0, 0, 0, 0);
     EXPECT_TRUE(isIconic());
+}
+
+GUI_TEST(MoveWin, ShellWithoutAWindowIsLeftAlone)
+{
+    Widget const shell = app.shell();
+    XtUnrealizeWidget(shell);
+    EXPECT_EQ(guiMoveWin(200, 150, 500, 400), 0);
+    EXPECT_EQ(guiMoveWin(0, 0, 0, 0), 0);
+    XtRealizeWidget(shell);
+    ASSERT_TRUE(isNormal());
 }
 
 GUI_STARTUP_TEST(MoveWin, WorksBeforeTheStart)

@@ -2,6 +2,7 @@
 // decoration is.
 
 #include "connection.h"
+#include "frame_checks.h"
 #include "gui_test.h"
 
 using namespace kite::testing;
@@ -15,15 +16,6 @@ ProfileAccess writes(const char* key, int value)
     return {ProfileAccess::Kind::WriteInt, "kite", key, value};
 }
 
-void save(const Rect& rect)
-{
-    Profile& profile = HostDouble::instance().profile();
-    profile.setInt("mwndx", rect.x, "kite");
-    profile.setInt("mwndy", rect.y, "kite");
-    profile.setInt("mwndw", rect.width, "kite");
-    profile.setInt("mwndh", rect.height, "kite");
-}
-
 int windowAt(Point corner)
 {
     const Window window =
@@ -35,7 +27,7 @@ int windowAt(Point corner)
 // Opens the frame there, with a decoration window at its corner, and closes it.
 Point savedCorner(Point frame, Point decoration)
 {
-    save({frame.x, frame.y, 400, 300});
+    savePlace({frame.x, frame.y, 400, 300});
     App::instance().run([&] { decorWindow = windowAt(decoration); });
     const Profile& profile = HostDouble::instance().profile();
     return {profile.intOf("mwndx").value_or(-1000), profile.intOf("mwndy").value_or(-1000)};
@@ -55,7 +47,7 @@ GUI_STARTUP_TEST(SavedNumbers, NoDecorationIsKnownBeforeTheStart)
 
 GUI_STARTUP_TEST(SavedNumbers, AreTheFramesOwnInThisOrder)
 {
-    save({110, 70, 410, 310});
+    savePlace({110, 70, 410, 310});
     app.run([] {});
     EXPECT_THAT(host.profile().writes(), ElementsAre(writes("mwndx", 110), writes("mwndy", 70),
                                                      writes("mwndw", 410), writes("mwndh", 310)));
@@ -189,7 +181,7 @@ GUI_STARTUP_TEST(SavedNumbers, OfAFrameFarInItsDecorationAreTheCorner)
 
 GUI_STARTUP_TEST(SavedNumbers, OfTheCornerAreTheCorner)
 {
-    save({0, 0, 400, 300});
+    savePlace({0, 0, 400, 300});
     app.run([] { EXPECT_EQ(decorWindow, 666); });
     EXPECT_EQ(host.profile().intOf("mwndx"), 0);
     EXPECT_EQ(host.profile().intOf("mwndy"), 0);

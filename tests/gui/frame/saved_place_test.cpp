@@ -1,6 +1,7 @@
 // The frame's place from one run to the next, under real decorations.
 
 #include "connection.h"
+#include "frame_checks.h"
 #include "gui_test.h"
 
 using namespace kite::testing;
@@ -46,11 +47,7 @@ GUI_TEST(SavedPlace, DecorationIsKnownWhileTheFrameRuns)
 
 GUI_STARTUP_TEST(SavedPlace, FrameOpensThere)
 {
-    const struct {
-        const char* key;
-        int value;
-    } saved[] = {{"mwndx", 120}, {"mwndy", 90}, {"mwndw", 640}, {"mwndh", 480}};
-    for (const auto& entry : saved) host.profile().setInt(entry.key, entry.value);
+    savePlace({120, 90, 640, 480});
     app.run([&] {
         EXPECT_EQ(outside().x, 120);
         EXPECT_EQ(outside().y, 90);
@@ -164,8 +161,7 @@ GUI_STARTUP_TEST(SavedPlace, OfAFrameClosedAtOnceIsNotTakenForTheLastOnes)
     app.init();
     ASSERT_TRUE(pumpUntil([] { return decorWindow != 666; }));
     guiClose(0);
-    host.profile().setInt("mwndx", 120, "kite");
-    host.profile().setInt("mwndy", 90, "kite");
+    savePlace({120, 90, 450, 300});
     guiInit(Recorder::hostCallback());
     EXPECT_EQ(decorWindow, 666);
     guiClose(0);

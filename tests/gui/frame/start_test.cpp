@@ -3,6 +3,7 @@
 #include <X11/Shell.h>
 #include <Xm/Protocols.h>
 
+#include "frame_checks.h"
 #include "gui_test.h"
 
 using namespace kite::testing;
@@ -78,9 +79,7 @@ GUI_TEST(Start, ShellSaysItsLeastSize)
 // A window manager may ignore a position that a program has made up, and takes the user's.
 GUI_STARTUP_TEST(Start, SavedPlaceIsThePlaceThatTheUserWants)
 {
-    for (const char* const key : {"mwndx", "mwndy"}) host.profile().setInt(key, 0);
-    host.profile().setInt("mwndw", 500);
-    host.profile().setInt("mwndh", 400);
+    savePlace({0, 0, 500, 400});
     app.run([&] { EXPECT_TRUE(wm::normalHintsOf(app.shell()).flags & USPosition); });
 }
 

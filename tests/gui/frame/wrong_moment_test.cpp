@@ -82,14 +82,23 @@ void callEverything()
     callPlugins();
 }
 
+void expectThatNothingHappens()
+{
+    Recorder& recorder = Recorder::instance();
+    Profile& profile = HostDouble::instance().profile();
+    recorder.clear();
+    profile.clearAccesses();
+    callEverything();
+    EXPECT_EQ(guiStart(Recorder::windowHandler()), -1);
+    EXPECT_THAT(recorder.events(), IsEmpty());
+    EXPECT_THAT(profile.accesses(), IsEmpty());
+}
+
 }  // namespace
 
 GUI_STARTUP_TEST(WrongMoment, BeforeInitNothingHappens)
 {
-    callEverything();
-    EXPECT_EQ(guiStart(Recorder::windowHandler()), -1);
-    EXPECT_THAT(recorder.events(), IsEmpty());
-    EXPECT_THAT(host.profile().accesses(), IsEmpty());
+    expectThatNothingHappens();
 }
 
 // Nothing of it is left over.
@@ -109,27 +118,17 @@ GUI_STARTUP_TEST(WrongMoment, BeforeInitLeavesTheFrameAsItIs)
 GUI_STARTUP_TEST(WrongMoment, AfterTheFrameIsClosedNothingHappens)
 {
     app.hostCallback = nullptr;
-    app.run([&] {
+    app.run([] {
         guiClose(0);
-        recorder.clear();
-        host.profile().clearAccesses();
-        callEverything();
-        EXPECT_EQ(guiStart(Recorder::windowHandler()), -1);
+        expectThatNothingHappens();
     });
-    EXPECT_THAT(recorder.events(), IsEmpty());
-    EXPECT_THAT(host.profile().accesses(), IsEmpty());
 }
 
 GUI_STARTUP_TEST(WrongMoment, AfterTheEndNothingHappens)
 {
     app.hostCallback = nullptr;
     app.run([] {});
-    recorder.clear();
-    host.profile().clearAccesses();
-    callEverything();
-    EXPECT_EQ(guiStart(Recorder::windowHandler()), -1);
-    EXPECT_THAT(recorder.events(), IsEmpty());
-    EXPECT_THAT(host.profile().accesses(), IsEmpty());
+    expectThatNothingHappens();
 }
 
 GUI_STARTUP_TEST(WrongMoment, InitWhileTheClosedFramesLoopEndsDoesNothing)
