@@ -4,8 +4,11 @@ namespace kite {
 
 namespace {
 
-int ignoreError(Display*, XErrorEvent*)
+bool isCaught = false;  // since the latest trap was set
+
+int noteError(Display*, XErrorEvent*)
 {
+    isCaught = true;
     return 0;
 }
 
@@ -14,7 +17,14 @@ int ignoreError(Display*, XErrorEvent*)
 XErrorTrap::XErrorTrap(Display* display) : display_(display)
 {
     XSync(display_, False);  // errors of earlier requests are not ours to swallow
-    previous_ = XSetErrorHandler(ignoreError);
+    previous_ = XSetErrorHandler(noteError);
+    isCaught = false;
+}
+
+bool XErrorTrap::hasCaught() const
+{
+    XSync(display_, False);
+    return isCaught;
 }
 
 XErrorTrap::~XErrorTrap()

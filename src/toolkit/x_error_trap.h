@@ -6,11 +6,15 @@
 
 namespace kite {
 
-// For requests on windows that belong to others and may be gone at any time.
+// For requests on windows that belong to others and may be gone at any time, and for what the server may
+// refuse.
 class XErrorTrap {
 public:
     explicit XErrorTrap(Display* display);
     ~XErrorTrap();
+
+    // True when a request made since the beginning has failed: asks the server.
+    bool hasCaught() const;
 
     XErrorTrap(const XErrorTrap&) = delete;
     XErrorTrap& operator=(const XErrorTrap&) = delete;

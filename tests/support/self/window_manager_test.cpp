@@ -58,38 +58,6 @@ GUI_TEST(WindowManager, CloseOfTheFrameRaisesItsEvent)
     EXPECT_TRUE(app.waitForEvent(toWindow(GUI_EVENT_COMMAND, GUI_COMMAND_CLOSE)));
 }
 
-GUI_TEST(WindowManager, IconifiesAndBringsBack)
-{
-    if (!isManaged()) GTEST_SKIP() << "needs a window manager";
-    Widget const frame = app.shell();
-    wm::iconify(frame);
-    EXPECT_TRUE(pumpUntil([&] { return wm::stateOf(frame) == wm::State::Iconic; }));
-    EXPECT_FALSE(isShown(frame));
-    wm::deiconify(frame);
-    EXPECT_TRUE(pumpUntil([&] { return wm::stateOf(frame) == wm::State::Normal; }));
-    EXPECT_TRUE(wm::waitUntilSettled(frame));
-}
-
-GUI_TEST(WindowManager, IconifiesByMouse)
-{
-    if (!isManaged()) GTEST_SKIP() << "needs a window manager";
-    Widget const frame = app.shell();
-    wm::iconifyByDecoration(frame);
-    EXPECT_TRUE(pumpUntil([&] { return wm::stateOf(frame) == wm::State::Iconic; }));
-}
-
-GUI_TEST(WindowManager, MovesTheFrameByItsTitle)
-{
-    if (!isManaged()) GTEST_SKIP() << "needs a window manager";
-    Widget const frame = app.shell();
-    const Rect before = wm::frameRect(frame);
-    wm::moveTo(frame, {before.x + 40, before.y - 30});
-    EXPECT_TRUE(pumpUntil([&] { return wm::frameRect(frame).x == before.x + 40; }))
-        << wm::frameRect(frame);
-    EXPECT_TRUE(pumpUntil([&] { return wm::frameRect(frame).y == before.y - 30; }))
-        << wm::frameRect(frame);
-}
-
 GUI_TEST(WindowManager, FrameLiesAroundTheClient)
 {
     const Rect frame = wm::frameRect(app.shell());
@@ -112,13 +80,4 @@ GUI_TEST(WindowManager, ReadsWhatTheClientSays)
     EXPECT_EQ(wm::normalHintsOf(app.shell()).min_width, 300);
     ProbeWindow window;
     EXPECT_EQ(wm::transientFor(window.box), windowOf(app.shell()));
-}
-
-GUI_TEST(WindowManager, GivesTheFocusToTheWindowThatIsActivated)
-{
-    if (!isManaged()) GTEST_SKIP() << "needs a window manager";
-    ProbeWindow window;
-    EXPECT_TRUE(wm::hasFocus(window.box));
-    wm::activate(app.shell());
-    EXPECT_TRUE(wm::waitForFocus(app.shell()));
 }
