@@ -37,7 +37,7 @@ void placeToolbar(const Widgets& frame)
 void show()
 {
     if (!widgets().mainWindow) return;
-    raise(GUI_EVENT_INIT);
+    dispatcher::raiseFirst();
     if (!widgets().mainWindow) return;  // the host has closed the frame already
 
     const bool hasToolbar = hasToolbarButtons(widgets());

@@ -28,6 +28,8 @@ namespace {
 int readDropDownHeight = 0;  // set by guiInit
 bool isInStart = false;      // while guiInit builds the frame
 
+void (*commandsGone)() = nullptr;  // from whenCommandsGo
+
 Widgets frame;  // made by guiInit, each forgotten when it is destroyed
 
 [[noreturn]] void failAtStart(const char* message)
@@ -120,6 +122,16 @@ int dropDownHeight()
     return readDropDownHeight;
 }
 
+void whenCommandsGo(void (*action)())
+{
+    commandsGone = action;
+}
+
+void dropCommands()
+{
+    if (commandsGone) commandsGone();
+}
+
 void recreateToolbar()
 {
     if (frame.toolbar) XtDestroyWidget(frame.toolbar);
@@ -139,6 +151,7 @@ void start(GuiHandler callback)
     dispatcher::setHostCallback(callback);
     dispatcher::setFrameActions({show, closeUnhandled});
     dispatcher::setStarted(false);
+    dropCommands();
     // The session of a frame that a host with an event loop of its own has closed goes on: that loop
     // may be running right now.
     if (!session::isOpen() && !session::open(appTitle(), kApplicationClass))
