@@ -357,6 +357,34 @@ KITEGUI_API int guiMenuSeparator(void);
 KITEGUI_API int guiMenuEnd(void);
 
 /*
+ * Adds a button at the right end of the toolbar. Without a button there is no toolbar.
+ *
+ *   image    name of its image, 1 to 127 bytes: the file "tbbb/" + image + ".bmp" below kxAppDir(), 21 by
+ *            21 pixels
+ *   tooltip  shown when the pointer rests on it, at most 63 bytes; null or empty: none. A longer one
+ *            shows "ToolbarButton: invalid tooltip for button %d", and the button is added without it.
+ *   style    GUI_PLAIN or GUI_CHECK
+ *   id       the command, 0 or more
+ *
+ * Plain buttons are flat unless the setting "tbbstyle" is 1. Returns the number of buttons so far; 0 when
+ * the frame has no toolbar; -1, and nothing is added, after the first of these that holds:
+ * "ToolbarButton: cannot be used now", "ToolbarButton: invalid image name for id %d", "ToolbarButton:
+ * invalid command id %d", "ToolbarButton: invalid style for id %d", "ToolbarButton: command 0 must use
+ * plain style", "ToolbarButton: duplicate button id %d", "ToolbarButton: menu/toolbar style conflict for
+ * id %d" (with its menu item), "ToolbarButton: too many buttons" (512); and then, where %s is the path of
+ * the file, "ToolbarButton: cannot load image %s", "ToolbarButton: image %s has wrong size",
+ * "ToolbarButton: cannot add button %d".
+ */
+KITEGUI_API int guiToolbarButton(const char *image, const char *tooltip, int style, int id);
+
+/*
+ * Leaves a gap of 5 pixels before the next button; two in a row leave one. Returns the number of
+ * separators so far; 0 when there is no button yet, and nothing is done; -1 after "ToolbarSeparator:
+ * cannot be used now".
+ */
+KITEGUI_API int guiToolbarSeparator(void);
+
+/*
  * Sets the state of a check command, item and button; no event is delivered. A plain menu item is left
  * alone, and its button with it.
  *

@@ -21,6 +21,7 @@ struct Room {
 
     int separators = 0;             // of the toolbar
     bool hasGapBeforeNext = false;  // set by a separator, used up by the next button
+    std::string imageDirectory;     // set by the first button, for good
     Widget tipOwner = nullptr;      // the button that the pointer is on; only compared
 };
 
