@@ -134,13 +134,15 @@ void dropCommands()
 
 void recreateToolbar()
 {
-    if (frame.toolbar) XtDestroyWidget(frame.toolbar);
+    if (frame.toolbar) dropToolbar();
     frame.toolbar = createToolbar(frame.mainWindow);
     forgetWhenDestroyed(frame.toolbar);
 }
 
+// Out of the layout at once: inside a callback Xt destroys it later.
 void dropToolbar()
 {
+    XtUnmanageChild(frame.toolbar);
     XtDestroyWidget(frame.toolbar);
     frame.toolbar = nullptr;
 }
