@@ -290,6 +290,124 @@ KITEGUI_API void guiSetOwner(GuiWidget owner);
 KITEGUI_API int guiGetDropName(char *buffer, int size);
 
 /* ---------------------------------------------------------------------------------------------
+ * Menus, toolbar and commands
+ *
+ * A command is an id of 0 or more, shown as a menu item, as a toolbar button or as both: the two are
+ * twins then, enabled and checked together. Choosing either delivers GUI_EVENT_COMMAND with the id and,
+ * for the check style, the new state.
+ *
+ * Commands are built between guiInit and guiStart (or the first event), when GUI_EVENT_INIT is delivered
+ * or any time later: guiMenu then begins anew, see there. The calls that say "cannot be used now" belong
+ * to that time, those that say "still in constructor" to the time after it; within GUI_EVENT_INIT that is
+ * before and after guiMenu. What GUI_EVENT_INIT has built is complete when its handler returns.
+ *
+ * Names of menus and items hold at most 63 bytes. The letter or digit behind the first "&" is the
+ * mnemonic; every "&" is left out of the label. A frame holds at most 512 items and 512 buttons.
+ * ------------------------------------------------------------------------------------------ */
+
+/* Styles of a command. */
+enum {
+    GUI_PLAIN = 0,               /* a push button */
+    GUI_CHECK = 1                /* a toggle: each choice changes its state */
+};
+
+/*
+ * Opens a menu, on the menu bar or inside the menu that is open.
+ *
+ *   name  its title, 0 to 63 bytes
+ *
+ * After the start it calls guiRestart first: no command remains, but the menus on the menu bar stay with
+ * their items and accelerators, deliver their events and are beyond the reach of the calls by id; the
+ * new menu stands behind them. Of equal accelerators and mnemonics the first one counts.
+ *
+ * Returns the level of the menu, 1 for one on the menu bar; -1 after "Menu: too many levels of menu" (255
+ * are open) or "Menu: invalid name" (null or longer), in this order, and without a frame.
+ */
+KITEGUI_API int guiMenu(const char *name);
+
+/*
+ * Adds an item to the open menu.
+ *
+ *   name   its label, 1 to 63 bytes
+ *   accel  0 or a blank: none. A digit or lower-case letter: the key with Control. An upper-case letter:
+ *          with Control and Shift. Only 256 are installed; one more shows "MenuItem: too many accelerators
+ *          - ignored", and the item is added without it.
+ *   style  GUI_PLAIN or GUI_CHECK
+ *   id     the command, 0 or more
+ *
+ * Returns the number of items so far; -1, and nothing is added, after the first of these that holds:
+ * "MenuItem: cannot be used now", "MenuItem: only menus can be placed on the menu bar", "MenuItem:
+ * invalid name", "MenuItem: invalid command id %d", "MenuItem: invalid style for id %d", "MenuItem:
+ * command 0 must use plain style", "MenuItem: duplicate menu item id %d", "MenuItem: menu/toolbar style
+ * conflict for id %d" (with its toolbar button), "MenuItem: invalid accelerator for id %d", "MenuItem:
+ * too many menu items" (512).
+ */
+KITEGUI_API int guiMenuItem(const char *name, char accel, int style, int id);
+
+/*
+ * Adds a line to the open menu. Returns 0; -1 after "MenuSeparator: cannot be used now" or
+ * "MenuSeparator: cannot be placed on the menu bar".
+ */
+KITEGUI_API int guiMenuSeparator(void);
+
+/*
+ * Closes the open menu. Returns the level that is left, 0 for the menu bar; -1 after "MenuEnd: cannot be
+ * used now" or "MenuEnd: already on the menu bar level".
+ */
+KITEGUI_API int guiMenuEnd(void);
+
+/*
+ * Adds a button at the right end of the toolbar. Without a button there is no toolbar.
+ *
+ *   image    name of its image, 1 to 127 bytes: the file "tbbb/" + image + ".bmp" below kxAppDir(), 21 by
+ *            21 pixels
+ *   tooltip  shown when the pointer rests on it, at most 63 bytes; null or empty: none. A longer one
+ *            shows "ToolbarButton: invalid tooltip for button %d", and the button is added without it.
+ *   style    GUI_PLAIN or GUI_CHECK
+ *   id       the command, 0 or more
+ *
+ * Plain buttons are flat unless the setting "tbbstyle" is 1. Returns the number of buttons so far; 0 when
+ * the frame has no toolbar; -1, and nothing is added, after the first of these that holds:
+ * "ToolbarButton: cannot be used now", "ToolbarButton: invalid image name for id %d", "ToolbarButton:
+ * invalid command id %d", "ToolbarButton: invalid style for id %d", "ToolbarButton: command 0 must use
+ * plain style", "ToolbarButton: duplicate button id %d", "ToolbarButton: menu/toolbar style conflict for
+ * id %d" (with its menu item), "ToolbarButton: too many buttons" (512); and then, where %s is the path of
+ * the file, "ToolbarButton: cannot load image %s", "ToolbarButton: image %s has wrong size",
+ * "ToolbarButton: cannot add button %d".
+ */
+KITEGUI_API int guiToolbarButton(const char *image, const char *tooltip, int style, int id);
+
+/*
+ * Leaves a gap of 5 pixels before the next button; two in a row leave one. Returns the number of
+ * separators so far; 0 when there is no button yet, and nothing is done; -1 after "ToolbarSeparator:
+ * cannot be used now".
+ */
+KITEGUI_API int guiToolbarSeparator(void);
+
+/*
+ * Sets the state of a check command, item and button; no event is delivered. A plain menu item is left
+ * alone, and its button with it.
+ *
+ *   id     the command; an unknown one changes nothing
+ *   state  non-zero: set
+ *
+ * Returns 0; -1 after "SetCommandCheck: still in constructor".
+ */
+KITEGUI_API int guiSetCommandCheck(int id, int state);
+
+/*
+ * Makes a command choosable (enable non-zero) or greys it, item and button. An unknown id changes
+ * nothing. Returns 0; -1 after "EnableCommand: still in constructor".
+ */
+KITEGUI_API int guiEnableCommand(int id, int enable);
+
+/*
+ * Returns the state of a check command, 1 or 0, of the menu item when there is one; 0 for a plain or
+ * unknown command; -1 while commands are built.
+ */
+KITEGUI_API int guiGetCommandCheck(int id);
+
+/* ---------------------------------------------------------------------------------------------
  * Standard boxes
  *
  * All but the tip are modal for the whole application: the call returns when the user has answered.

@@ -2,6 +2,8 @@
 
 #include <Xm/Xm.h>
 
+#include <utility>
+
 #include "frame/busy_cursor.h"
 #include "frame/deferred_start.h"
 #include "frame/top_window.h"
@@ -23,7 +25,8 @@ struct {
     GuiHandler hostCallback = nullptr;                 // set once by guiInit
     dispatcher::FrameActions frame{nullptr, nullptr};  // set by guiInit
     bool started = false;         // set by guiStart and the first event, cleared by guiRestart
-    bool showing = false;         // raised and lowered by showFrameOnce
+    bool showing = false;         // raised and lowered by showUntilStarted
+    bool building = false;        // raised by noteBuilding, lowered by setStarted and raiseFirst
     bool suppressed = false;      // raised and lowered by EventsSuppressed
     bool inHostCallback = false;  // raised and lowered by callHost
 } state;
@@ -65,17 +68,16 @@ bool deliver(const Event& event)
     return true;
 }
 
-// A host that restarts the frame while event 0 builds it gets event 0 again, after this one and not
-// inside it; a host that does so every time gets it with the next event again.
-void showFrameOnce()
+// A host that restarts the frame while event 0 runs, and builds nothing after that, gets event 0 again,
+// after this one and not inside it; a host that does so every time gets it with the next event again.
+void showUntilStarted()
 {
-    if (state.showing) return;
-    state.showing = true;
+    const bool wasShowing = std::exchange(state.showing, true);
     for (int showings = 0; !state.started && showings < kMostShowings; ++showings) {
         state.started = true;
         if (state.frame.show) state.frame.show();
     }
-    state.showing = false;
+    state.showing = wasShowing;
 }
 
 void runDeferredStarts()
@@ -94,7 +96,7 @@ void raise(int event, int id, int a, int b)
     if (state.suppressed) return;
     // A dropped event must not show the frame or start what the running handler only asked for.
     if (!deliver({event, id, a, b})) return;
-    showFrameOnce();
+    if (!state.showing) showUntilStarted();
     runDeferredStarts();
 }
 
@@ -118,6 +120,28 @@ bool isStarted()
 void setStarted(bool started)
 {
     state.started = started;
+    state.building = false;
+}
+
+void showFrame()
+{
+    setStarted(false);
+    showUntilStarted();
+}
+
+void raiseFirst()
+{
+    if (state.suppressed) return;
+    state.building = false;
+    const bool isDelivered = deliver({GUI_EVENT_INIT, 0, 0, 0});
+    // What event 0 has built would be there twice if the open phase called for another one.
+    if (state.building) setStarted(true);
+    if (isDelivered) runDeferredStarts();
+}
+
+void noteBuilding()
+{
+    state.building = true;
 }
 
 }  // namespace dispatcher

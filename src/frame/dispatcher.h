@@ -26,6 +26,16 @@ void setFrameActions(const FrameActions& actions);
 bool isStarted();
 void setStarted(bool started);
 
+// Shows the frame, as the first event does.
+void showFrame();
+
+// Event 0 of the frame, a part of showing it. When the host has built commands meanwhile they are
+// complete, and the library is started again.
+void raiseFirst();
+
+// The host builds commands.
+void noteBuilding();
+
 }  // namespace dispatcher
 
 // No event is delivered in its scope: for changes of the library's own, which are not the user's.

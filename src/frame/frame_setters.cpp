@@ -159,6 +159,7 @@ int guiMoveWin(int x, int y, int w, int h)
 int guiRestart(void)
 {
     dispatcher::setStarted(false);
+    frame::dropCommands();
     if (!frame::widgets().mainWindow) return 0;
     hover::leave();  // the button that it belongs to goes
     frame::recreateToolbar();

@@ -7,6 +7,7 @@
 #include "frame/dispatcher.h"
 #include "frame/frame_widgets.h"
 #include "frame/main_frame.h"
+#include "toolkit/argument_list.h"
 #include "toolkit/resources.h"
 
 namespace kite::frame {
@@ -32,20 +33,29 @@ void placeToolbar(const Widgets& frame)
                   nullptr);
 }
 
+// Before they are managed: the main window gives no place to a toolbar that it does not know as one. And
+// only what changes: it warns of every change while a toolbar that it knows is about to be destroyed.
+void install(const Widgets& frame, bool hasToolbar)
+{
+    ArgumentList changes;
+    if (resource<Widget>(frame.mainWindow, XmNmenuBar) != frame.menuBar)
+        changes.set(XmNmenuBar, frame.menuBar);
+    if (hasToolbar) changes.set(XmNcommandWindow, frame.toolbar);
+    if (changes.size() > 0) XtSetValues(frame.mainWindow, changes.data(), changes.size());
+}
+
 }  // namespace
 
 void show()
 {
     if (!widgets().mainWindow) return;
-    raise(GUI_EVENT_INIT);
+    dispatcher::raiseFirst();
     if (!widgets().mainWindow) return;  // the host has closed the frame already
 
     const bool hasToolbar = hasToolbarButtons(widgets());
     if (!hasToolbar && widgets().toolbar) dropToolbar();
     const Widgets& frame = widgets();
-    // Installed first: the main window gives no place to a toolbar that it does not know as one.
-    XtVaSetValues(frame.mainWindow, XmNmenuBar, frame.menuBar, XmNcommandWindow, frame.toolbar,
-                  nullptr);
+    install(frame, hasToolbar);
     if (frame.menuBar) XtManageChild(frame.menuBar);
     if (hasToolbar) XtManageChild(frame.toolbar);
     if (hasToolbar && frame.menuBar && frame.scroller) placeToolbar(frame);

@@ -110,9 +110,6 @@ Widget createToolbar(Widget mainWindow)
 
 void createContents(Widgets& frame)
 {
-    // A menu bar has no font of its own: its buttons look for the shell's.
-    if (XmFontList const font = frameFonts::of(frame.shell, frameFonts::Use::MenuBar))
-        XtVaSetValues(frame.shell, XmNbuttonFontList, font, nullptr);
     frame.menuBar = createMenuBar(frame.mainWindow);
     frame.toolbar = createToolbar(frame.mainWindow);
     frame.scroller =

@@ -30,6 +30,8 @@ namespace {
 int readDropDownHeight = 0;  // set by guiInit
 bool isInStart = false;      // while guiInit builds the frame
 
+void (*commandsGone)() = nullptr;  // from whenCommandsGo
+
 Widgets frame;  // made by guiInit, each forgotten when it is destroyed
 
 [[noreturn]] void failAtStart(const char* message)
@@ -131,15 +133,27 @@ int dropDownHeight()
     return readDropDownHeight;
 }
 
+void whenCommandsGo(void (*action)())
+{
+    commandsGone = action;
+}
+
+void dropCommands()
+{
+    if (commandsGone) commandsGone();
+}
+
 void recreateToolbar()
 {
-    if (frame.toolbar) XtDestroyWidget(frame.toolbar);
+    if (frame.toolbar) dropToolbar();
     frame.toolbar = createToolbar(frame.mainWindow);
     forgetWhenDestroyed(frame.toolbar);
 }
 
+// Out of the layout at once: inside a callback Xt destroys it later.
 void dropToolbar()
 {
+    XtUnmanageChild(frame.toolbar);
     XtDestroyWidget(frame.toolbar);
     frame.toolbar = nullptr;
 }
@@ -150,6 +164,7 @@ void start(GuiHandler callback)
     dispatcher::setHostCallback(callback);
     dispatcher::setFrameActions({show, closeUnhandled});
     dispatcher::setStarted(false);
+    dropCommands();
     // The session of a frame that a host with an event loop of its own has closed goes on: that loop
     // may be running right now.
     if (!session::isOpen() && !session::open(appTitle(), kApplicationClass))

@@ -33,6 +33,11 @@ int dropDownHeight();
 void dropToolbar();
 void recreateToolbar();
 
+// What is called when the host's commands go: by guiRestart, and when a new frame is built. The commands
+// lie above the frame, and say so when the first one is made.
+void whenCommandsGo(void (*action)());
+void dropCommands();
+
 // Shows the host's commands: raises event 0, then puts menu bar and toolbar into place.
 void show();
 

@@ -22,9 +22,8 @@ bool isRunning = false;  // a handler may call guiStart again: there is one loop
 void runUntilClosed(GuiHandler handler)
 {
     XtVaSetValues(mainWindow(), XmNuserData, reinterpret_cast<XtPointer>(handler), nullptr);
-    dispatcher::setStarted(true);
     Widget const anyWidget = mainWindow();
-    frame::show();
+    dispatcher::showFrame();
     if (mainWindow()) processEventsWhile(anyWidget, [] { return mainWindow() != nullptr; });
 }
 

@@ -41,6 +41,7 @@ constexpr StringKey kStatusLineFont{"fnamm", 128, kHelvetica};
 constexpr StringKey kMenuBarFont{"fnamn", 128, kHelvetica};
 constexpr StringKey kOutputFont{"fnamt", 128, kFixed};
 constexpr IntKey kDropDownHeight{"ch_height", 128};
+constexpr IntKey kToolbarStyle{"tbbstyle", 0};
 constexpr StringKey kHoverDelay{"mouse_hover", 64, ""};
 
 constexpr int kDefaultHoverDelay = 2000;  // milliseconds
@@ -85,6 +86,11 @@ bool savesGeometry()
 int dropDownHeight()
 {
     return read(kDropDownHeight);
+}
+
+int toolbarStyle()
+{
+    return read(kToolbarStyle);
 }
 
 Geometry savedGeometry()

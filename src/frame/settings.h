@@ -12,6 +12,7 @@ int startupHook();     // "spsec": above 0, a start-up hook runs
 int logMode();         // "logfm": 0 or less no log, 1 a new log, else a continued one
 bool savesGeometry();  // "mwndp"
 int dropDownHeight();  // "ch_height": eighths
+int toolbarStyle();    // "tbbstyle": 1, plain toolbar buttons have a shadow
 
 struct Geometry {
     int x, y, width, height;  // pixels; -1 stands for "not saved"

@@ -33,6 +33,7 @@ TEST_F(Settings, HaveTheirDefaults)
     EXPECT_EQ(settings::menuBarFont(), kHelvetica);
     EXPECT_EQ(settings::outputFont(), kFixed);
     EXPECT_EQ(settings::dropDownHeight(), 128);
+    EXPECT_EQ(settings::toolbarStyle(), 0);
     EXPECT_EQ(settings::hoverDelay(), 2000);
     const auto saved = settings::savedGeometry();
     EXPECT_THAT((std::array{saved.x, saved.y, saved.width, saved.height}),
@@ -50,22 +51,24 @@ TEST_F(Settings, AskWithTheirKeysDefaultsAndSizes)
     settings::menuBarFont();
     settings::outputFont();
     settings::dropDownHeight();
+    settings::toolbarStyle();
     settings::hoverDelay();
     EXPECT_THAT(profile().calls,
                 ElementsAre("kite/spsec 0", "kite/logfm 0", "kite/logfn 1024", "kite/mwndx -1",
                             "kite/mwndy -1", "kite/mwndw -1", "kite/mwndh -1", "kite/mwndp 1",
                             "kite/fnamm 128", "kite/fnamn 128", "kite/fnamt 128",
-                            "kite/ch_height 128", "kite/mouse_hover 64"));
+                            "kite/ch_height 128", "kite/tbbstyle 0", "kite/mouse_hover 64"));
 }
 
 TEST_F(Settings, AreReadFromTheProfile)
 {
-    profile().integers = {{"spsec", 7}, {"logfm", 2}, {"mwndp", 0}, {"ch_height", 64}};
+    profile().integers = {{"spsec", 7}, {"logfm", 2}, {"mwndp", 0}, {"ch_height", 64}, {"tbbstyle", 1}};
     profile().strings = {{"logfn", "my.log"}, {"fnamm", "a"}, {"fnamn", "b"}, {"fnamt", "c"}};
     EXPECT_EQ(settings::startupHook(), 7);
     EXPECT_EQ(settings::logMode(), 2);
     EXPECT_FALSE(settings::savesGeometry());
     EXPECT_EQ(settings::dropDownHeight(), 64);
+    EXPECT_EQ(settings::toolbarStyle(), 1);
     EXPECT_EQ(settings::logFileName(), "my.log");
     EXPECT_EQ(settings::statusLineFont(), "a");
     EXPECT_EQ(settings::menuBarFont(), "b");

@@ -1,7 +1,7 @@
 // The three fonts of the frame.
 
-#include <Xm/CascadeB.h>
 #include <Xm/LabelG.h>
+#include <Xm/PushB.h>
 #include <Xm/Text.h>
 
 #include "connection.h"
@@ -22,12 +22,11 @@ std::string fontOf(const char* name)
     return fontNameOf(findWidget(name), XmNfontList);
 }
 
-// Of a menu's title, which takes its font from the menu bar.
+// Of a menu's title, which has the menu bar's font.
 std::string fontOfMenuTitle()
 {
-    Widget const button =
-        XtVaCreateWidget("title", xmCascadeButtonWidgetClass, findWidget("v_menubar"), nullptr);
-    return fontNameOf(button, XmNfontList);
+    if (!findWidget("v_mbtn")) guiMenu("title");
+    return fontNameOf(findWidget("v_mbtn"), XmNfontList);
 }
 
 // Of widgets that nobody has given a font.
@@ -103,6 +102,23 @@ GUI_STARTUP_TEST(FrameFonts, OneMissingLeavesTheOthers)
         EXPECT_NE(fontOf("v_sline"), fontNameFor(kHelvetica));
         EXPECT_EQ(fontOfMenuTitle(), fontNameFor(kHelvetica));
         EXPECT_EQ(fontOf("v_text"), fontNameFor(kFixed));
+    });
+}
+
+// Buttons anywhere else in the frame, and in boxes, do not take it for theirs.
+GUI_STARTUP_TEST(FrameFonts, MenuBarsOwnIsForMenusOnly)
+{
+    host.profile().setString("fnamn", kCourier);
+    app.run([&] {
+        EXPECT_EQ(fontOfMenuTitle(), fontNameFor(kCourier));
+        EXPECT_NE(toolkitFontOf(xmPushButtonWidgetClass, "v_statusbar"), fontNameFor(kCourier));
+        app.whenShown("v_askbox", [](Shown box) {
+            for (const char* button : {"OK", "Cancel"})
+                EXPECT_EQ(fontNameOf(box.child(button), XmNfontList), fontNameFor(kHelvetica));
+            EXPECT_NE(fontNameOf(box.child("Help"), XmNfontList), fontNameFor(kCourier));
+            box.key(XK_Escape);
+        });
+        guiOkCancelBox("?");
     });
 }
 

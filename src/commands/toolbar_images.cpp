@@ -1,0 +1,61 @@
+#include "commands/toolbar_images.h"
+
+#include <array>
+
+#include "commands/command_room.h"
+#include "frame/host_services.h"
+
+namespace kite::commands {
+
+namespace {
+
+constexpr char kDirectory[] = "tbbb/";
+constexpr char kSuffix[] = ".bmp";
+
+// Row y loses the pixels at y mod 2, y mod 2 + 2, and so on: the corners are among them.
+constexpr int kPointCount = (kImageSize * kImageSize + 1) / 2;
+
+using Points = std::array<XPoint, kPointCount>;
+
+Points checkerboard()
+{
+    Points points{};
+    auto* next = points.begin();
+    for (int y = 0; y < kImageSize; ++y)
+        for (int x = y % 2; x < kImageSize; x += 2)
+            *next++ = {static_cast<short>(x), static_cast<short>(y)};
+    return points;
+}
+
+}  // namespace
+
+// The application directory is asked for once: it stays where it is.
+std::string imagePath(const char* image)
+{
+    std::string& directory = room().imageDirectory;
+    if (directory.empty()) {
+        const char* const application = kxAppDir();
+        directory = (application ? application : "") + std::string{kDirectory};
+    }
+    return directory + image + kSuffix;
+}
+
+OwnedPixmap greyed(Screen* screen, Pixmap image, Pixel background)
+{
+    static const Points points = checkerboard();
+    Display* const display = DisplayOfScreen(screen);
+    const auto depth = static_cast<unsigned int>(DefaultDepthOfScreen(screen));
+    const Pixmap copy =
+        XCreatePixmap(display, RootWindowOfScreen(screen), kImageSize, kImageSize, depth);
+    XGCValues values{};
+    values.foreground = background;
+    values.graphics_exposures = False;
+    GC const pen = XCreateGC(display, copy, GCForeground | GCGraphicsExposures, &values);
+    XCopyArea(display, image, copy, pen, 0, 0, kImageSize, kImageSize, 0, 0);
+    XDrawPoints(display, copy, pen, const_cast<XPoint*>(points.data()), kPointCount,
+                CoordModeOrigin);
+    XFreeGC(display, pen);
+    return {display, copy};
+}
+
+}  // namespace kite::commands
