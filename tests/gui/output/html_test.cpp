@@ -61,10 +61,10 @@ GUI_TEST(WriteHTML, PutsTheInsertionPointBehindText)
 GUI_TEST(WriteHTML, KeepsTheSelection)
 {
     setOutput("old");
-    selectOutput(0, 3);
-    guiWriteHTML("new");
+    selectOutput(0, 2);
+    guiWriteHTML("<b>new");
     EXPECT_EQ(output(), "oldnew ");
-    EXPECT_EQ(outputSelection(), (Selected{0, 3}));
+    EXPECT_EQ(outputSelection(), (Selected{0, 2}));
 }
 
 GUI_TEST(WriteHTML, BodySetsTheArea)
@@ -87,6 +87,31 @@ GUI_TEST(WriteHTML, BodySetsTheArea)
     guiWriteHTML("<body wide=no>");
     EXPECT_FALSE(setting(text, XmNwordWrap));
     EXPECT_FALSE(setting(text, XmNscrollHorizontal));
+}
+
+// As the user sees it: a long line reaches into more lines on the screen, and back.
+GUI_TEST(WriteHTML, BodyWrapsLongLines)
+{
+    Widget const text = outputText();
+    guiWriteLine(std::string(500, 'x').c_str());
+    for (int i = 0; i < 30; ++i) guiWriteText("some words ");
+    const auto rows = [&] {
+        settle();
+        Position x = 0, first = 0, last = 0;
+        XmTextPosToXY(text, 501, &x, &first);
+        EXPECT_TRUE(XmTextPosToXY(text, XmTextGetLastPosition(text), &x, &last));
+        return (last - first) / 10;
+    };
+    EXPECT_EQ(rows(), 0);
+    const auto height = resource<Dimension>(text, XmNheight);
+    guiWriteHTML("<body wide=on>");
+    EXPECT_GT(rows(), 3);
+    EXPECT_GT(resource<Dimension>(text, XmNheight), height) << "the scroll bar is gone";
+    guiWriteLine("and more");
+    EXPECT_GT(rows(), 4);
+    guiWriteHTML("<body>");
+    EXPECT_LE(rows(), 2);
+    EXPECT_EQ(resource<Dimension>(text, XmNheight), height);
 }
 
 GUI_TEST(HTML2Rich, WritesToOtherTexts)
