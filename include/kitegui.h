@@ -408,6 +408,119 @@ KITEGUI_API int guiEnableCommand(int id, int enable);
 KITEGUI_API int guiGetCommandCheck(int id);
 
 /* ---------------------------------------------------------------------------------------------
+ * Output area
+ *
+ * The host's running output: one text of plain bytes, in which a line ends with "\n" or with the text.
+ * The user may edit and select in it. What is written is shown within 16 milliseconds of anything else
+ * happening, and when the handler returns at the latest; what is read is always the text as it is.
+ * Positions and columns count bytes. Everything here may be called from guiInit until the frame is closed.
+ * ------------------------------------------------------------------------------------------ */
+
+/* Positions that guiGetCurPos and guiGetCurLine measure. */
+enum {
+    GUI_INSERTION_POINT = 0,     /* and every value that is neither of the others */
+    GUI_SELECTION_START = 1,
+    GUI_SELECTION_END = 2
+};
+
+/*
+ * Adds a text at the end, as it is, puts the insertion point behind it and clears the selection. The log
+ * gets the same text. Null writes nothing.
+ */
+KITEGUI_API void guiWriteText(const char *text);
+
+/*
+ * Adds a line: the text and "\n". Otherwise like guiWriteText; the log gets it as a line. Null writes
+ * nothing. Without memory it shows "WriteLine: out of memory" and writes nothing.
+ */
+KITEGUI_API void guiWriteLine(const char *text);
+
+/*
+ * Replaces the selected text and puts the insertion point behind the new one. With nothing selected it
+ * writes to the very beginning of the text. The log gets nothing. Null writes nothing.
+ */
+KITEGUI_API void guiWriteSel(const char *text);
+
+/*
+ * Adds a small part of HTML as plain text with line breaks (docs/output.md says which part), and a blank.
+ * The log gets the markup as it is. Null writes nothing.
+ */
+KITEGUI_API void guiWriteHTML(const char *html);
+
+/*
+ * The same for any Motif text widget, without the log. "<body>" makes it editable, scrolling and without
+ * word wrap, or what its attributes say. "<pre>" is remembered from call to call.
+ *
+ *   text  an XmText or XmTextField; null, or a widget of another kind, changes nothing
+ *   html  null changes nothing; an empty one still adds a blank
+ */
+KITEGUI_API void guiHTML2Rich(GuiWidget text, const char *html);
+
+/*
+ * Deletes the selected text; with nothing selected, all of it. The log stays as it is. The result is of
+ * no use.
+ */
+KITEGUI_API int guiClearOutput(void);
+
+/*
+ * Returns the number of lines: the "\n" bytes, and one more when there is text behind the last of them.
+ * -1 without a frame, or after "GetLineCount: out of memory".
+ */
+KITEGUI_API int guiOutputLineCount(void);
+
+/*
+ * Fetches a line without its end.
+ *
+ *   line       its number, counted from 0
+ *   buf, size  receives at most size - 1 bytes of it
+ *
+ * Returns the number of bytes copied; -1 with an empty buffer when there is no such line (the empty rest
+ * behind a last "\n" is none) or no frame; -1 after "GetLine: invalid buffer" for a null buffer or a size
+ * below 2, which leaves the buffer alone, and after "GetLine: out of memory".
+ */
+KITEGUI_API int guiOutputLine(int line, char *buf, int size);
+
+/*
+ * Returns the column of a position, counted from 0: the bytes between the start of its line and it. 0
+ * when the text is empty, and for a selection when there is none; -1 without a frame, or after
+ * "GetLineCount: out of memory".
+ *
+ *   which  GUI_SELECTION_START, GUI_SELECTION_END, or anything else for the insertion point
+ */
+KITEGUI_API int guiGetCurPos(int which);
+
+/*
+ * Returns the line of a position, counted from 1; 0 when the text is empty. Everything else is as with
+ * guiGetCurPos: without a selection its start and end are at the start of line 1.
+ */
+KITEGUI_API int guiGetCurLine(int which);
+
+/*
+ * Selects a stretch of text, puts the insertion point at its end and scrolls there.
+ *
+ *   line      counted from 1, up to guiOutputLineCount() + 1: the place behind the last line
+ *   startCol  where in the line it starts, in bytes from 0; it may reach into other lines
+ *   count     its length in bytes; line 1, column 0 and count -1 (or 65535) select the whole text
+ *
+ * Start and end are kept in 16 bits, so that positions beyond 32767 wrap. A start or end that the text
+ * does not have selects nothing new, and an end before the start selects nothing at all; the insertion
+ * point goes to the nearest position to the end.
+ *
+ * Returns 1; 0 when there is no such line, the text is empty or there is no frame; -1 after
+ * "GetLineCount: out of memory".
+ */
+KITEGUI_API int guiSelOutputLine(int line, int startCol, int count);
+
+/*
+ * Writes the selected text, or with nothing selected all of it, into a file that is replaced, byte for
+ * byte.
+ *
+ * Returns 0; -1 without a frame; -1 after "SaveOutput: invalid file name" for a null or empty path,
+ * "SaveOutput: out of memory", "SaveOutput: cannot open the file" or "SaveOutput: error writing the file".
+ */
+KITEGUI_API int guiSaveOutput(const char *path);
+
+/* ---------------------------------------------------------------------------------------------
  * Standard boxes
  *
  * All but the tip are modal for the whole application: the call returns when the user has answered.

@@ -3,6 +3,7 @@
 #include <kitegui.h>
 
 #include "frame/session.h"
+#include "toolkit/held_redisplay.h"
 
 namespace {
 
@@ -14,6 +15,7 @@ void guiBeep(void)
 {
     Display* const display = kite::session::display();
     if (!display) return;
+    kite::paintHeldText();
     XBell(display, kVolume);
     XFlush(display);  // heard now, also when the host computes on
 }

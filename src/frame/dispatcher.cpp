@@ -7,6 +7,7 @@
 #include "frame/busy_cursor.h"
 #include "frame/deferred_start.h"
 #include "frame/top_window.h"
+#include "toolkit/held_redisplay.h"
 #include "toolkit/resources.h"
 
 namespace kite {
@@ -41,6 +42,7 @@ void callHandler(GuiHandler handler, const Event& event)
 {
     const deferred::HandlerRunning running;
     handler(event.code, event.id, event.a, event.b);
+    paintHeldText();
 }
 
 // False when the host callback is running already: the event is dropped.

@@ -1,7 +1,6 @@
 // frame_setters.cpp: what the host can change about the frame.
 
 #include <Xm/Scale.h>
-#include <Xm/Text.h>
 #include <Xm/Xm.h>
 #include <kitegui.h>
 
@@ -17,6 +16,7 @@
 #include "frame/main_frame.h"
 #include "toolkit/compound_string.h"
 #include "toolkit/displayable_text.h"
+#include "toolkit/held_redisplay.h"
 #include "toolkit/resources.h"
 
 namespace kite::frame {
@@ -29,19 +29,6 @@ constexpr int kFullGauge = 100;
 const char* orElse(const char* text, const char* whenEmpty)
 {
     return text && *text ? text : whenEmpty;
-}
-
-// With text selected only that is removed, the same as the user's own "clear".
-void clearOutput(Widget text)
-{
-    XmTextPosition left = 0;
-    XmTextPosition right = 0;
-    const bool isSelected = XmTextGetSelectionPosition(text, &left, &right) && left >= 0 &&
-                            right > left && right <= XmTextGetLastPosition(text);
-    if (isSelected)
-        XmTextReplace(text, left, right, const_cast<char*>(""));
-    else
-        XmTextSetString(text, const_cast<char*>(""));
 }
 
 void setStatusLine(Widget line, const char* text)
@@ -134,6 +121,7 @@ void guiSetStatusLine(const char* text)
     Widget const line = frame::widgets().statusLine;
     if (!line) return;
     frame::setStatusLine(line, text);
+    paintHeldText();
     XmUpdateDisplay(frame::widgets().mainWindow);
 }
 
@@ -142,6 +130,7 @@ void guiSetProgress(int percent)
     Widget const gauge = frame::widgets().gauge;
     if (!gauge) return;
     XmScaleSetValue(gauge, std::clamp(percent, 0, frame::kFullGauge));
+    paintHeldText();
     XmUpdateDisplay(gauge);
 }
 
@@ -165,9 +154,10 @@ int guiRestart(void)
     frame::recreateToolbar();
     const frame::Widgets& widgets = frame::widgets();
     guiSetFrameTitle(nullptr);
-    if (widgets.text) frame::clearOutput(widgets.text);
+    guiClearOutput();
     if (widgets.statusLine) frame::setStatusLine(widgets.statusLine, nullptr);
     if (widgets.gauge) XmScaleSetValue(widgets.gauge, 0);
+    paintHeldText();
     XmUpdateDisplay(widgets.mainWindow);
     return 0;
 }

@@ -19,6 +19,7 @@
 #include "toolkit/colours.h"
 #include "toolkit/compound_string.h"
 #include "toolkit/insertion_cursor.h"
+#include "toolkit/parked_copy.h"
 #include "toolkit/widget_pixmap.h"
 
 namespace kite::frame {
@@ -52,6 +53,7 @@ Widget createOutputText(Widget scroller)
     showInsertionCursorWithFocus(text);
     raiseFunctionKeyCommands(text);
     acceptFileDrops(text);
+    dropParkedCopyOnChange(text);
     return text;
 }
 

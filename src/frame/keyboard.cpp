@@ -5,6 +5,7 @@
 #include "frame/dispatcher.h"
 #include "frame/hover.h"
 #include "frame/top_window.h"
+#include "toolkit/held_redisplay.h"
 #include "toolkit/key_symbol.h"
 
 namespace kite {
@@ -41,6 +42,7 @@ int guiUserBreak(void)
 {
     Widget const window = kite::boxParent();
     if (!window) return 0;
+    kite::paintHeldText();  // a computation that asks this now and then shows what it has written
     // All of them are taken, also those behind the break: keys pressed during a computation that is
     // given up are not meant for what comes after it.
     int isBroken = 0;

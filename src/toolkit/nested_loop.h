@@ -4,6 +4,8 @@
 
 #include <X11/Intrinsic.h>
 
+#include "toolkit/held_redisplay.h"
+
 namespace kite {
 
 // Processes events of all kinds, one at a time, as long as `pending()` says so. The widget only names
@@ -12,7 +14,10 @@ template <typename Pending>
 void processEventsWhile(Widget widget, Pending pending)
 {
     XtAppContext application = XtWidgetToApplicationContext(widget);
-    while (pending()) XtAppProcessEvent(application, XtIMAll);
+    while (pending()) {
+        paintHeldText();
+        XtAppProcessEvent(application, XtIMAll);
+    }
 }
 
 }  // namespace kite
