@@ -4,79 +4,23 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
-#include <functional>
 #include <string>
-#include <vector>
 
 #include "environment.h"
+#include "gallery_steps.h"
 #include "process.h"
 #include "pump.h"
 #include "robot.h"
 #include "screen.h"
+#include "temporary_directory.h"
 #include "window_manager.h"
 
 namespace {
 
 using namespace kite::testing;
 
-constexpr char kFrame[] = "kitegui tour";
-constexpr milliseconds kQuiet{300};  // a screen that stays as it is for so long is finished
-
-Robot& robot()
-{
-    return Robot::instance();
-}
-
-void press(KeySym key)
-{
-    robot().key(key);
-}
-
-struct Step {
-    std::string picture;
-    std::string what;
-    std::function<void()> act;
-};
-
-// The timer would change the screen for ever: it goes first, and is stopped.
-const std::vector<Step>& steps()
-{
-    static const std::vector<Step> all{
-        {"timer", "F9 stops the timer that feeds the gauge", [] { press(XK_F9); }},
-        {"information", "F1 shows an information", [] { press(XK_F1); }},
-        {"information-read", "Return: it was read", [] { press(XK_Return); }},
-        {"error", "F2 shows an error", [] { press(XK_F2); }},
-        {"error-read", "Return again", [] { press(XK_Return); }},
-        {"tip", "F3 shows a note at the pointer", [] { press(XK_F3); }},
-        {"tip-left", "the pointer leaves it",
-         [] {
-             robot().moveTo(Point{300, 300});
-         }},
-        {"ok-cancel", "F4 asks for OK or Cancel", [] { press(XK_F4); }},
-        {"ok-cancel-answered", "Escape is Cancel", [] { press(XK_Escape); }},
-        {"yes-no", "F5 asks for Yes or No", [] { press(XK_F5); }},
-        {"yes-no-answered", "Return is Yes", [] { press(XK_Return); }},
-        {"yes-no-cancel", "F6 asks for Yes, No or Cancel", [] { press(XK_F6); }},
-        {"yes-no-cancel-answered", "Escape is Cancel", [] { press(XK_Escape); }},
-        {"text", "F7 asks for a text", [] { press(XK_F7); }},
-        {"text-typed", "a name is typed", [] { robot().type(" Lovelace"); }},
-        {"text-answered", "Return is OK", [] { press(XK_Return); }},
-        {"hidden-text", "F8 asks for a text that stays hidden", [] { press(XK_F8); }},
-        {"hidden-text-answered", "a secret and Return",
-         [] {
-             robot().type("secret");
-             press(XK_Return);
-         }},
-        {"plug-in", "F10 runs a plug-in", [] { press(XK_F10); }},
-        {"moved", "F11 moves the frame", [] { press(XK_F11); }},
-        {"nested-outer", "F12 asks before it nests", [] { press(XK_F12); }},
-        {"nested-inner", "Yes: a box on a box", [] { press(XK_Return); }},
-        {"nested-answered", "Return closes both", [] { press(XK_Return); }},
-        {"closing", "the window manager asks to close the frame",
-         [] { wm::close(wm::waitForWindow(kFrame)); }},
-    };
-    return all;
-}
+constexpr milliseconds kQuiet{300};        // a screen that stays as it is for so long is finished
+constexpr milliseconds kFirstPaint{1000};  // the gauge moves: the screen is never quiet
 
 bool waitUntilChanged(const screen::Picture& before)
 {
@@ -95,7 +39,7 @@ public:
     explicit Gallery(std::filesystem::path directory) : directory_(std::move(directory)) {}
 
     // False when the step changed nothing on the screen.
-    bool show(const Step& step)
+    bool show(const tour::Step& step)
     {
         const screen::Picture before = screen::grab();
         step.act();
@@ -105,7 +49,7 @@ public:
         return isDone;
     }
 
-    void save(const Step& step, const screen::Picture& picture)
+    void save(const tour::Step& step, const screen::Picture& picture)
     {
         const std::string number = std::to_string(100 + ++count_).substr(1);
         const auto path = directory_ / ("tour-" + number + "-" + step.picture + ".png");
@@ -122,7 +66,7 @@ private:
 // Leaves with the Return that answers the question.
 bool leave(Process& tour)
 {
-    press(XK_Return);
+    Robot::instance().key(XK_Return);
     if (!tour.wait() || tour.exitStatus() != 0) {
         std::puts("The tour did not end as it should");
         return false;
@@ -141,16 +85,21 @@ int main(int argc, char** argv)
     }
     // The robot works on a display of its own only; scripts/demo has started one.
     setenv("KITE_TEST_DISPLAY", environment("DISPLAY").c_str(), 1);
-    Gallery gallery{argv[1]};
-    Process tour{{argv[2]}, {{"KITE_PROFILE", "/dev/null"}}};
-    Window const frame = wm::waitForWindow(kFrame);
+    Gallery gallery{std::filesystem::absolute(argv[1])};
+    const std::string program = std::filesystem::absolute(argv[2]);
+    const TemporaryDirectory files{"gallery"};  // what the tour saves
+    std::filesystem::current_path(files.path());
+    Process tour{{program}, {{"KITE_PROFILE", "/dev/null"}}};
+    Window const frame = wm::waitForWindow(tour::kFrameTitle);
     if (!frame || !wm::waitForFocus(frame)) {
         std::puts("The tour did not start");
         return 1;
     }
-    robot().moveTo(wm::clientRect(frame).centre());
+    Robot::instance().moveTo(wm::clientRect(frame).centre());
+    holdsFor([] { return true; }, kFirstPaint);
     gallery.save({"frame", "the frame, its gauge fed by a timer", {}}, screen::grab());
     bool isComplete = true;
-    for (const Step& step : steps()) isComplete = gallery.show(step) && isComplete;
+    for (const tour::Step& step : tour::gallerySteps())
+        isComplete = gallery.show(step) && isComplete;
     return leave(tour) && isComplete ? 0 : 1;
 }

@@ -1,0 +1,49 @@
+// commands.h: the tour's commands, and where they stand in menus and toolbar.
+
+#pragma once
+
+namespace tour {
+
+enum Command {
+    Close = 0,
+    Save,
+    WriteLines,
+    WriteHtml,
+    Replace,
+    SelectFirst,
+    SelectLast,
+    SelectAll,
+    CountLines,
+    ShowCursor,
+    Protect,
+    Clear,
+    Timer,
+    MoveToTopLeft,
+    MoveToBottomRight,
+    MoveToCentre,
+    RunPlugin,
+    ShowInformation,
+    ShowError,
+    ShowTip,
+    AskOkCancel,
+    AskYesNo,
+    AskYesNoCancel,
+    AskText,
+    AskHiddenText,
+    NestBoxes,
+    ShowAbout
+};
+
+// Builds the menu bar and the toolbar.
+void buildCommands();
+
+// Does what the user has chosen; `state` is 1 when a check item was set.
+void runCommand(int id, int state);
+
+// One step of the gauge.
+void tick();
+
+// The first text, and the states that the commands begin with.
+void begin();
+
+}  // namespace tour

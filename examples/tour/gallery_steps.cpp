@@ -1,0 +1,136 @@
+#include "gallery_steps.h"
+
+#include "robot.h"
+#include "window_manager.h"
+
+namespace tour {
+
+namespace {
+
+using namespace kite::testing;
+
+Robot& robot()
+{
+    return Robot::instance();
+}
+
+std::function<void()> key(KeySym symbol, unsigned modifiers = NoModifier)
+{
+    return [=] { robot().key(symbol, modifiers); };
+}
+
+std::function<void()> keys(std::vector<KeySym> symbols)
+{
+    return [=] {
+        for (const KeySym symbol : symbols) robot().key(symbol);
+    };
+}
+
+std::function<void()> typed(const std::string& text)
+{
+    return [=] {
+        robot().type(text);
+        robot().key(XK_Return);
+    };
+}
+
+Window frame()
+{
+    static const Window window = wm::waitForWindow(kFrameTitle);
+    return window;
+}
+
+// The toolbar's buttons, in pixels of the frame.
+constexpr int kFirstButton = 22;
+constexpr int kButtonWidth = 35;
+constexpr int kGap = 5;
+constexpr int kToolbarMiddle = 47;
+
+enum ToolbarButton { SaveButton, LineButton, HtmlButton, SelectButton, ClearButton, LockButton };
+
+Point middleOf(ToolbarButton button)
+{
+    const int gaps = button > SaveButton ? 1 : 0;
+    return wm::clientRect(frame()).corner() +
+           Point{kFirstButton + kButtonWidth * button + kGap * gaps, kToolbarMiddle};
+}
+
+std::function<void()> clicked(ToolbarButton button)
+{
+    return [=] {
+        robot().moveTo(middleOf(button));
+        robot().click();
+    };
+}
+
+void rest()
+{
+    robot().moveTo(middleOf(SelectButton));
+}
+
+void leaveToolbar()
+{
+    robot().moveTo(wm::clientRect(frame()).centre());
+}
+
+}  // namespace
+
+const std::vector<Step>& gallerySteps()
+{
+    // The timer would change the screen for ever: it goes first.
+    static const std::vector<Step> all{
+        {"timer", "Control+T stops the timer that feeds the gauge", key(XK_t, Control)},
+        {"tooltip", "the pointer rests on a button", rest},
+        {"tooltip-left", "the pointer leaves it", leaveToolbar},
+        {"menu", "Alt+F opens a menu", key(XK_f, Alt)},
+        {"menu-output", "Right: the next one", key(XK_Right)},
+        {"menu-select", "S: a menu in it", key(XK_s)},
+        {"menus-left", "Escape closes them", keys({XK_Escape, XK_Escape})},
+        {"menus-nested", "Alt+R, M, C: three levels",
+         [] {
+             robot().key(XK_r, Alt);
+             robot().key(XK_m);
+             robot().key(XK_c);
+         }},
+        {"moved", "R: the frame is moved to the bottom right", key(XK_r)},
+        {"lines", "a button writes lines", clicked(LineButton)},
+        {"lines-again", "Control+L writes more", key(XK_l, Control)},
+        {"html", "a button writes HTML", clicked(HtmlButton)},
+        {"select-line", "Control+1 selects the first line", key(XK_1, Control)},
+        {"replace", "Control+R asks for what replaces it", key(XK_r, Control)},
+        {"replaced", "a text is typed", typed("This is the tour of kitegui, the first line says.")},
+        {"select-all", "Control+Shift+A selects everything", key(XK_a, Control | Shift)},
+        {"save", "Control+S asks for a file name", key(XK_s, Control)},
+        {"saved", "Return saves the selection", key(XK_Return)},
+        {"protect", "a check button protects the output: the eraser turns grey",
+         clicked(LockButton)},
+        {"menu-check", "the item of the menu is set with it", key(XK_o, Alt)},
+        {"unprotect", "P takes the protection away", key(XK_p)},
+        {"cleared", "a button clears what is selected: everything", clicked(ClearButton)},
+        {"information", "F1 shows an information", key(XK_F1)},
+        {"information-read", "Return: it was read", key(XK_Return)},
+        {"error", "F2 shows an error", key(XK_F2)},
+        {"error-read", "Return again", key(XK_Return)},
+        {"tip", "F3 shows a note at the pointer", key(XK_F3)},
+        {"tip-left", "the pointer leaves it", leaveToolbar},
+        {"ok-cancel", "F4 asks for OK or Cancel", key(XK_F4)},
+        {"ok-cancel-answered", "Escape is Cancel", key(XK_Escape)},
+        {"yes-no", "F5 asks for Yes or No", key(XK_F5)},
+        {"yes-no-answered", "Return is Yes", key(XK_Return)},
+        {"yes-no-cancel", "F6 asks for Yes, No or Cancel", key(XK_F6)},
+        {"yes-no-cancel-answered", "Escape is Cancel", key(XK_Escape)},
+        {"text", "F7 asks for a text", key(XK_F7)},
+        {"text-answered", "a name is typed", typed(" Lovelace")},
+        {"hidden-text", "F8 asks for a text that stays hidden", key(XK_F8)},
+        {"hidden-text-answered", "a secret is typed", typed("secret")},
+        {"nested-outer", "F9 asks before it nests", key(XK_F9)},
+        {"nested-inner", "Yes: a box on a box", key(XK_Return)},
+        {"nested-answered", "Return closes both", key(XK_Return)},
+        {"icon", "the frame is iconified", [] { wm::iconify(frame()); }},
+        {"restored", "and brought back", [] { wm::deiconify(frame()); }},
+        {"closing", "Control+Q leaves", key(XK_q, Control)},
+    };
+    return all;
+}
+
+}  // namespace tour
