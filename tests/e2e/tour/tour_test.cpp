@@ -1,0 +1,90 @@
+// tour_test.cpp: the tour, used from outside like any program.
+
+#include <filesystem>
+#include <fstream>
+#include <optional>
+#include <sstream>
+
+#include "gui_test.h"
+#include "temporary_directory.h"
+
+using namespace kite::testing;
+using ::testing::HasSubstr;
+using ::testing::StartsWith;
+
+namespace {
+
+class Tour {
+public:
+    Tour()
+    {
+        std::filesystem::current_path(directory_.path());  // the tour saves there
+        std::ofstream{path("profile")} << "[tour]\nlogfm = 1\nlogfn = " << path("log") << "\n";
+        program_.emplace(std::vector<std::string>{TOUR_PROGRAM},
+                         Process::Environment{{"KITE_PROFILE", path("profile")}});
+    }
+
+    // Once it has the keyboard; 0 when it does not come.
+    Window window() const
+    {
+        const Window window = wm::waitForWindow("kitegui tour");
+        return window && wm::waitForFocus(window) ? window : 0;
+    }
+
+    std::string path(const std::string& name) const { return directory_.path() / name; }
+
+    std::string contents(const std::string& name) const
+    {
+        std::ostringstream all;
+        all << std::ifstream{path(name)}.rdbuf();
+        return all.str();
+    }
+
+    bool waitUntilLogged(const std::string& text) const
+    {
+        return pumpUntil([&] { return contents("log").find(text) != std::string::npos; });
+    }
+
+    Process& program() { return *program_; }
+
+private:
+    TemporaryDirectory directory_{"tour"};
+    std::optional<Process> program_;
+};
+
+// Agrees to the box that comes up over the frame.
+void agree(Window frame)
+{
+    ASSERT_TRUE(pumpUntil([=] { return !wm::hasFocus(frame); }));
+    Robot::instance().key(XK_Return);
+}
+
+}  // namespace
+
+GUI_STARTUP_TEST(Tour, WritesSavesLogsAndLeaves)
+{
+    Tour tour;
+    const Window frame = tour.window();
+    ASSERT_TRUE(frame) << tour.program().output();
+    // Motif takes two keys of the same millisecond for one.
+    robot.key(XK_l, Control);
+    ASSERT_TRUE(tour.waitUntilLogged("\nLine 5 of plain text\n"));
+    robot.key(XK_h, Control);
+    ASSERT_TRUE(tour.waitUntilLogged("<h1>A heading</h1>"));
+    robot.key(XK_s, Control);
+    agree(frame);
+    ASSERT_TRUE(wm::waitForFocus(frame));
+    const std::string saved = tour.contents("tour-output.txt");
+    EXPECT_THAT(saved, StartsWith("Welcome to the tour of kitegui.\n"));
+    EXPECT_THAT(saved, HasSubstr("Line 1 of plain text\nLine 2 of plain text\n"));
+    EXPECT_THAT(saved, HasSubstr("Text with markup: 2 < 3 & 4 > 3.\n"));
+
+    robot.key(XK_q, Control);
+    agree(frame);
+    ASSERT_TRUE(tour.program().wait());
+    EXPECT_EQ(tour.program().exitStatus(), 0) << tour.program().output();
+    const std::string log = tour.contents("log");
+    EXPECT_THAT(log, StartsWith(">>>LogStarted: "));
+    EXPECT_THAT(log, HasSubstr("Welcome to the tour of <b>kitegui</b>.<br>"));
+    EXPECT_THAT(log, HasSubstr(">>>LogStopped: "));
+}
