@@ -12,7 +12,7 @@ PixmapSink::PixmapSink(Screen* screen, Pixel undrawn, DirectPixels::Background t
       undrawn_(static_cast<std::uint32_t>(undrawn)), paletteDisplay_(display_),
       indexed_(loadingPalette(), undrawn_),
       direct_([this](Rgb wanted) { return allocateColour(display_, colormap(), wanted); },
-              std::move(transparentGrey), undrawn_)
+              transparentGrey, undrawn_)
 {
 }
 
