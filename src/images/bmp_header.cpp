@@ -1,7 +1,9 @@
 #include "images/bmp_header.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
+#include <iterator>
 
 namespace kite::images::bmp {
 
@@ -32,9 +34,9 @@ constexpr DepthRule kAccepted[] = {{1, 0}, {4, 0}, {4, 2}, {8, 0}, {8, 1}, {24, 
 
 bool isAccepted(std::uint32_t bits, std::uint32_t compression)
 {
-    for (const DepthRule& rule : kAccepted)
-        if (rule.bits == bits && rule.compression == compression) return true;
-    return false;
+    return std::any_of(std::begin(kAccepted), std::end(kAccepted), [=](const DepthRule& rule) {
+        return rule.bits == bits && rule.compression == compression;
+    });
 }
 
 // Heights of pictures that begin at the top are negative: as unsigned words they are beyond the limit.
@@ -83,7 +85,8 @@ std::optional<std::vector<Rgb>> readPalette(const Header& header, ByteSource& so
 
 std::uint64_t rowBytes(const Header& header)
 {
-    return static_cast<std::uint64_t>((header.width * header.bitsPerPixel + 31) / 32 * 4);
+    const int words = (header.width * header.bitsPerPixel + 31) / 32;
+    return std::uint64_t{4} * static_cast<unsigned>(words);
 }
 
 std::uint64_t leastDataSize(const Header& header)

@@ -1,26 +1,15 @@
 #include "images/image_loader.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "images/bmp.h"
 #include "images/file_source.h"
 #include "images/pixmap_sink.h"
+#include "images/transparent_grey.h"
 
 namespace kite::images {
 
 namespace {
-
-struct State {
-    BackgroundOf menuBarBackground = nullptr;  // set by setTransparentGrey
-};
-State state;
-
-std::optional<std::uint32_t> transparentGrey()
-{
-    if (!state.menuBarBackground) return std::nullopt;
-    return static_cast<std::uint32_t>(state.menuBarBackground());
-}
 
 Picture readBmp(Screen* screen, const std::string& path, Pixel undrawn)
 {
@@ -67,11 +56,6 @@ Picture load(Screen* screen, const std::string& path, Pixel undrawn)
     for (const Reader& reader : kReaders)
         if (reader.extension == extension) return reader.read(screen, path, undrawn);
     return {};
-}
-
-void setTransparentGrey(BackgroundOf menuBarBackground)
-{
-    state.menuBarBackground = menuBarBackground;
 }
 
 }  // namespace kite::images

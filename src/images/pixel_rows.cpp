@@ -15,11 +15,6 @@ bool isTransparent(const AllocatedColour& colour)
            colour.blue == kTransparentGrey;
 }
 
-std::uint32_t keyOf(Rgb colour)
-{
-    return static_cast<std::uint32_t>(colour.red << 16 | colour.green << 8 | colour.blue);
-}
-
 }  // namespace
 
 IndexedPixels::IndexedPixels(ImagePalette& palette, std::uint32_t undrawn)
@@ -43,7 +38,7 @@ void IndexedPixels::convert(std::span<const bmp::Index> from, std::span<std::uin
 }
 
 DirectPixels::DirectPixels(Allocate allocate, Background background, std::uint32_t undrawn)
-    : allocate_(std::move(allocate)), background_(std::move(background)), undrawn_(undrawn)
+    : allocate_(std::move(allocate)), background_(background), undrawn_(undrawn)
 {
 }
 
@@ -63,7 +58,7 @@ std::uint32_t DirectPixels::newPixel(Rgb colour)
 
 std::uint32_t DirectPixels::pixelOf(Rgb colour)
 {
-    const auto [entry, isNew] = known_.try_emplace(keyOf(colour));
+    const auto [entry, isNew] = known_.try_emplace(colour);
     if (isNew) entry->second = newPixel(colour);
     return entry->second;
 }

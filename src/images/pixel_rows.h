@@ -39,7 +39,7 @@ private:
 class DirectPixels {
 public:
     using Allocate = std::function<std::optional<AllocatedColour>(Rgb)>;
-    using Background = std::function<std::optional<std::uint32_t>()>;
+    using Background = std::optional<std::uint32_t> (*)();
 
     // Where a display has exactly the grey 191, 191, 191, the background shows in its place; none: the
     // grey itself.
@@ -51,6 +51,13 @@ public:
     void convert(std::span<const bmp::Bgr> from, std::span<std::uint32_t> to);
 
 private:
+    struct Hash {
+        std::size_t operator()(Rgb colour) const
+        {
+            return static_cast<std::size_t>(colour.red << 16 | colour.green << 8 | colour.blue);
+        }
+    };
+
     std::uint32_t pixelOf(Rgb colour);
     std::uint32_t newPixel(Rgb colour);
 
@@ -58,7 +65,7 @@ private:
     Background background_;
     std::uint32_t undrawn_;
     const TrueColour* computed_ = nullptr;
-    std::unordered_map<std::uint32_t, std::uint32_t> known_;  // by colour, for one load
+    std::unordered_map<Rgb, std::uint32_t, Hash> known_;  // pixels, for one load
 };
 
 }  // namespace kite::images

@@ -12,7 +12,7 @@ PixmapSink::PixmapSink(Screen* screen, Pixel undrawn, DirectPixels::Background t
       undrawn_(static_cast<std::uint32_t>(undrawn)), paletteDisplay_(display_),
       indexed_(loadingPalette(), undrawn_),
       direct_([this](Rgb wanted) { return allocateColour(display_, colormap(), wanted); },
-              std::move(transparentGrey), undrawn_)
+              transparentGrey, undrawn_)
 {
 }
 
@@ -28,7 +28,7 @@ bool PixmapSink::begin(const bmp::Header& header, const std::vector<Rgb>& palett
     picture_.height = header.height;
     if (!createPixmap()) return false;
     createContext();
-    if (header.isInRuns()) fill();  // other pictures have all their rows
+    undrawnRows_ = header.height;
     if (header.isIndexed()) {
         loadingPalette().reset(colormap());
         for (int index = 0; index < std::ssize(palette); ++index) {
@@ -68,26 +68,38 @@ void PixmapSink::createContext()
     context_ = XCreateGC(display_, picture_.pixmap, GCForeground | GCBackground, &values);
 }
 
-void PixmapSink::fill()
+// Rows that do not come, from the given one down to the latest one that did.
+void PixmapSink::fillFrom(int y)
 {
-    XFillRectangle(display_, picture_.pixmap, context_, 0, 0, static_cast<unsigned>(picture_.width),
-                   static_cast<unsigned>(picture_.height));
+    if (y < undrawnRows_)
+        XFillRectangle(display_, picture_.pixmap, context_, 0, y,
+                       static_cast<unsigned>(picture_.width),
+                       static_cast<unsigned>(undrawnRows_ - y));
+    undrawnRows_ = y;
+}
+
+void PixmapSink::send(int y)
+{
+    fillFrom(y + 1);
+    undrawnRows_ = y;
+    upload_->row(y, row_);
 }
 
 void PixmapSink::row(int y, std::span<const bmp::Index> indexes)
 {
     indexed_.convert(indexes, row_);
-    upload_->row(y, row_);
+    send(y);
 }
 
 void PixmapSink::row(int y, std::span<const bmp::Bgr> pixels)
 {
     direct_.convert(pixels, row_);
-    upload_->row(y, row_);
+    send(y);
 }
 
 Picture PixmapSink::take()
 {
+    fillFrom(0);
     upload_->finish();
     return std::exchange(picture_, {});
 }

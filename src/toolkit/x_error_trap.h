@@ -7,8 +7,8 @@
 namespace kite {
 
 // For requests on windows that belong to others and may be gone at any time, and for what the server may
-// refuse. Errors of requests made before go where they always go. Traps of one display end in the opposite
-// order of their beginning.
+// refuse. Errors of requests made before go where they always go. Traps end in the opposite order of their
+// beginning.
 class XErrorTrap {
 public:
     explicit XErrorTrap(Display* display);

@@ -4,20 +4,26 @@
 
 #include <X11/Intrinsic.h>
 
-#include <filesystem>
 #include <string>
 #include <vector>
 
+#include "bmp_file.h"
 #include "images/image_loader.h"
 
 namespace kite::testing {
 
 using Pixels = std::vector<std::vector<Pixel>>;  // rows, from the top
 
+inline constexpr BmpFile::Colour kRed{255, 0, 0};
+inline constexpr BmpFile::Colour kGreen{0, 255, 0};
+inline constexpr BmpFile::Colour kBlue{0, 0, 255};
+inline constexpr BmpFile::Colour kGrey{191, 191, 191};
+
 Screen* defaultScreen();
 
 // Of the pixmap, read from the server.
-Pixels pixelsOf(const images::Picture& picture);
+Pixels pixelsOf(Pixmap pixmap);
+unsigned depthOf(Pixmap pixmap);
 
 // Writes the bytes to a file and loads it.
 images::Picture loadBytes(const std::string& bytes, Pixel undrawn = 0,
@@ -27,15 +33,10 @@ images::Picture loadBytes(const std::string& bytes, Pixel undrawn = 0,
 Pixels pixelsLoaded(const std::string& bytes, Pixel undrawn = 0);
 
 // What the server allocates for it.
-Pixel serverPixel(int red, int green, int blue);
+Pixel serverPixel(BmpFile::Colour colour);
 
-// Replies that this process has waited for on the library's display.
-template <typename Action>
-unsigned long requestsDuring(Display* display, const Action& action)
-{
-    const unsigned long before = NextRequest(display);
-    action();
-    return NextRequest(display) - before;
-}
+// Many colours; the same ones every time.
+BmpFile::Colours noise(int width, int height);
+BmpFile::Palette manyColours();
 
 }  // namespace kite::testing
