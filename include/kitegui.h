@@ -531,6 +531,58 @@ private:
     int endsWithBlankLine = 0;
     char *path = nullptr;         /* owned copy */
 };
+
+/* ---------------------------------------------------------------------------------------------
+ * Colours of pictures (C++ only)
+ * ------------------------------------------------------------------------------------------ */
+
+/*
+ * The up to 256 colours of a picture with a palette. A colour is allocated on the display when it is
+ * asked for the first time, and what the display has refused is not asked for again. The display is the
+ * one that the library uses at that moment; without one every colour is refused.
+ */
+class KITEGUI_API ImagePalette {
+public:
+    /* As after reset(0). */
+    ImagePalette();
+
+    /*
+     * Makes every entry black and not yet allocated.
+     *
+     *   colormap  the X colormap in which colours are allocated from now on. With 0, and with one that
+     *             does not exist, every colour is refused.
+     *
+     * What was allocated before stays allocated: pictures may show it.
+     */
+    void reset(unsigned long colormap);
+
+    /*
+     * Gives an entry a colour, which has to be allocated anew.
+     *
+     *   index             0 to 255; for any other nothing happens
+     *   red, green, blue  0 to 255; of other values the lowest eight bits count
+     */
+    void set(int index, int red, int green, int blue);
+
+    /*
+     * Returns 1 when the entry's colour is allocated, which this call does when it is the first for it;
+     * 0 when the display has refused it, and for an index that is not 0 to 255. Each component is
+     * allocated as its 256-fold, so 255 as 0xFF00.
+     */
+    int isGood(int index);
+
+    /* The entry's X pixel, meaningful after isGood has returned 1; 0 when it never was allocated. */
+    unsigned long get(int index) const;
+
+private:
+    struct Entry {
+        unsigned char red, green, blue;
+        unsigned char state;  /* 0 not yet allocated, 1 allocated, 2 refused */
+        unsigned int pixel;
+    };
+    Entry entries[256];
+    unsigned long colormap;
+};
 #endif
 
 #endif

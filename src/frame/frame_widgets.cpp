@@ -11,7 +11,6 @@
 #include <Xm/Text.h>
 
 #include "frame/app_info.h"
-#include "frame/built_in_icon.h"
 #include "frame/file_drop.h"
 #include "frame/frame_fonts.h"
 #include "frame/keyboard.h"
@@ -20,6 +19,7 @@
 #include "toolkit/colours.h"
 #include "toolkit/compound_string.h"
 #include "toolkit/insertion_cursor.h"
+#include "toolkit/widget_pixmap.h"
 
 namespace kite::frame {
 
@@ -79,24 +79,17 @@ Widget createGauge(Widget statusBar, Widget statusLine)
         kGaugeMargin, XmNbottomAttachment, XmATTACH_FORM, XmNbottomOffset, kGaugeMargin, nullptr);
 }
 
-Pixmap createIcon()
-{
-    Display* const display = session::display();
-    return XCreateBitmapFromData(display, DefaultRootWindow(display),
-                                 reinterpret_cast<const char*>(kBuiltInIcon), kBuiltInIconSize,
-                                 kBuiltInIconSize);
-}
-
 }  // namespace
 
-Widget createShell(const settings::Geometry& geometry, bool isUsersPosition)
+Widget createShell(const settings::Geometry& geometry, bool isUsersPosition, Pixmap icon)
 {
     Widget shell = XtVaAppCreateShell(
         appTitle(), kApplicationClass, applicationShellWidgetClass, session::display(), XmNtitle,
-        appTitle(), XmNiconName, appTitle(), XmNiconPixmap, createIcon(), XmNx, geometry.x, XmNy,
+        appTitle(), XmNiconName, appTitle(), XmNiconPixmap, icon, XmNx, geometry.x, XmNy,
         geometry.y, XmNwidth, geometry.width, XmNheight, geometry.height, XmNminWidth,
         savedGeometry::kLeastWidth, XmNminHeight, savedGeometry::kLeastHeight, XmNbaseWidth, 0,
         XmNbaseHeight, 0, nullptr);
+    if (shell) freeWithWidget(shell, icon);
     // The user left the frame there: the same as a position given by hand. Window managers may ignore
     // one that the program made up, and the corner of the screen above all.
     if (shell && isUsersPosition)

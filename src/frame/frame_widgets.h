@@ -13,7 +13,8 @@ inline constexpr char kApplicationClass[] = "- not used -";
 inline constexpr int kToolbarHeight = 37;  // pixels
 
 // Null widgets mean that the toolkit could not make them.
-Widget createShell(const settings::Geometry& geometry, bool isUsersPosition);
+// The icon becomes the shell's.
+Widget createShell(const settings::Geometry& geometry, bool isUsersPosition, Pixmap icon);
 Widget createMainWindow(Widget shell);
 Widget createToolbar(Widget mainWindow);
 

@@ -11,6 +11,7 @@
 #include "frame/decoration.h"
 #include "frame/dispatcher.h"
 #include "frame/frame_fonts.h"
+#include "frame/frame_pictures.h"
 #include "frame/frame_widgets.h"
 #include "frame/hover.h"
 #include "frame/log_file.h"
@@ -18,6 +19,7 @@
 #include "frame/saved_geometry.h"
 #include "frame/session.h"
 #include "frame/top_window.h"
+#include "images/image_loader.h"
 #include "toolkit/resources.h"
 #include "toolkit/shells.h"
 
@@ -67,9 +69,15 @@ constexpr Widget Widgets::*kParts[] = {&Widgets::shell,     &Widgets::mainWindow
                                        &Widgets::toolbar,   &Widgets::scroller,   &Widgets::text,
                                        &Widgets::statusBar, &Widgets::statusLine, &Widgets::gauge};
 
+Pixel menuBarBackground()
+{
+    return resource<Pixel>(frame.menuBar, XmNbackground);
+}
+
 // Xt may come to it late, when the host has built the next frame.
 void partDestroyed(Widget widget, XtPointer, XtPointer)
 {
+    if (widget == frame.menuBar) images::setTransparentGrey(nullptr);
     for (Widget Widgets::*const part : kParts)
         if (frame.*part == widget) frame.*part = nullptr;
 }
@@ -88,9 +96,10 @@ void closeUnhandled()
 
 void build()
 {
+    const Pixmap icon = loadIcon(XDefaultScreenOfDisplay(session::display()));
     const auto saved = settings::savedGeometry();
     const auto geometry = savedGeometry::toOpenWith(saved, screenSize());
-    frame.shell = createShell(geometry, geometry == saved);
+    frame.shell = createShell(geometry, geometry == saved, icon);
     if (!frame.shell) failAtStart("Cannot create the application shell");
     frame.mainWindow = createMainWindow(frame.shell);
     if (!frame.mainWindow) failAtStart("Cannot create the main window");
@@ -101,7 +110,9 @@ void build()
     readDropDownHeight = settings::dropDownHeight();
     createContents(frame);
     for (Widget Widgets::*const part : kParts) forgetWhenDestroyed(frame.*part);
+    images::setTransparentGrey(menuBarBackground);
     hover::setDelay(settings::hoverDelay());
+    loadTreeImages(frame.shell);
     // From here on there is a frame: the host's services, which were asked until now, have not seen it.
     setMainWindow(frame.mainWindow);
     setTopWindow(frame.mainWindow);

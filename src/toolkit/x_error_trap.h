@@ -7,7 +7,8 @@
 namespace kite {
 
 // For requests on windows that belong to others and may be gone at any time, and for what the server may
-// refuse.
+// refuse. Errors of requests made before go where they always go. Traps of one display end in the opposite
+// order of their beginning.
 class XErrorTrap {
 public:
     explicit XErrorTrap(Display* display);
@@ -20,7 +21,15 @@ public:
     XErrorTrap& operator=(const XErrorTrap&) = delete;
 
 private:
+    static int noteError(Display* display, XErrorEvent* error);
+    bool takes(Display* display, const XErrorEvent& error) const;
+    void await() const;
+
     Display* display_;
+    unsigned long firstRequest_;           // the first one that is ours
+    mutable unsigned long nextUnchecked_;  // of those before it the errors have arrived
+    mutable bool isCaught_ = false;
+    XErrorTrap* outer_;
     XErrorHandler previous_;
 };
 

@@ -1,0 +1,48 @@
+#include "images/byte_source.h"
+
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+namespace kite::images {
+
+bool ByteSource::refill()
+{
+    if (hasEnded_) return false;
+    chunk_ = nextChunk();
+    position_ = 0;
+    hasEnded_ = chunk_.empty();
+    return !hasEnded_;
+}
+
+bool ByteSource::read(std::span<std::uint8_t> to)
+{
+    while (!to.empty()) {
+        if (position_ == chunk_.size() && !refill()) return false;
+        const std::size_t count = std::min(to.size(), chunk_.size() - position_);
+        std::memcpy(to.data(), chunk_.data() + position_, count);
+        position_ += count;
+        to = to.subspan(count);
+    }
+    return true;
+}
+
+bool ByteSource::seek(std::uint64_t offset)
+{
+    chunk_ = {};
+    position_ = 0;
+    return moveTo(offset);
+}
+
+std::span<const std::uint8_t> MemorySource::nextChunk()
+{
+    return std::exchange(rest_, {});
+}
+
+bool MemorySource::moveTo(std::uint64_t offset)
+{
+    rest_ = bytes_.subspan(static_cast<std::size_t>(std::min<std::uint64_t>(offset, size())));
+    return true;
+}
+
+}  // namespace kite::images

@@ -1,0 +1,82 @@
+#include "images/pixel_rows.h"
+
+#include <utility>
+
+namespace kite::images {
+
+namespace {
+
+// What a display that has the grey 191, 191, 191 exactly reports for it.
+constexpr std::uint16_t kTransparentGrey = 0xBF00;
+
+bool isTransparent(const AllocatedColour& colour)
+{
+    return colour.red == kTransparentGrey && colour.green == kTransparentGrey &&
+           colour.blue == kTransparentGrey;
+}
+
+std::uint32_t keyOf(Rgb colour)
+{
+    return static_cast<std::uint32_t>(colour.red << 16 | colour.green << 8 | colour.blue);
+}
+
+}  // namespace
+
+IndexedPixels::IndexedPixels(ImagePalette& palette, std::uint32_t undrawn)
+    : palette_(palette), undrawn_(undrawn)
+{
+    pixels_.fill(kAsk);
+}
+
+std::uint32_t IndexedPixels::pixelOf(bmp::Index index)
+{
+    if (index == bmp::kUndrawn) return undrawn_;
+    std::uint64_t& pixel = pixels_[static_cast<std::size_t>(index)];
+    if (pixel == kAsk)
+        pixel = palette_.isGood(index) ? static_cast<std::uint32_t>(palette_.get(index)) : undrawn_;
+    return static_cast<std::uint32_t>(pixel);
+}
+
+void IndexedPixels::convert(std::span<const bmp::Index> from, std::span<std::uint32_t> to)
+{
+    for (std::size_t x = 0; x < from.size(); ++x) to[x] = pixelOf(from[x]);
+}
+
+DirectPixels::DirectPixels(Allocate allocate, Background background, std::uint32_t undrawn)
+    : allocate_(std::move(allocate)), background_(std::move(background)), undrawn_(undrawn)
+{
+}
+
+void DirectPixels::useComputed(const TrueColour* computed)
+{
+    // Where the grey may be among the colours, each one has to be looked at.
+    if (computed && !computed->reports(kTransparentGrey, kTransparentGrey, kTransparentGrey))
+        computed_ = computed;
+}
+
+std::uint32_t DirectPixels::newPixel(Rgb colour)
+{
+    const std::optional<AllocatedColour> allocated = allocate_(colour);
+    if (!allocated) return undrawn_;
+    return isTransparent(*allocated) ? background_().value_or(allocated->pixel) : allocated->pixel;
+}
+
+std::uint32_t DirectPixels::pixelOf(Rgb colour)
+{
+    const auto [entry, isNew] = known_.try_emplace(keyOf(colour));
+    if (isNew) entry->second = newPixel(colour);
+    return entry->second;
+}
+
+void DirectPixels::convert(std::span<const bmp::Bgr> from, std::span<std::uint32_t> to)
+{
+    if (computed_) {
+        for (std::size_t x = 0; x < from.size(); ++x)
+            to[x] = computed_->pixel(from[x].red, from[x].green, from[x].blue);
+        return;
+    }
+    for (std::size_t x = 0; x < from.size(); ++x)
+        to[x] = pixelOf({from[x].red, from[x].green, from[x].blue});
+}
+
+}  // namespace kite::images

@@ -1,0 +1,34 @@
+#include "round_trips.h"
+
+#include <X11/Xlibint.h>
+#include <dlfcn.h>
+#undef min
+#undef max
+
+#include <map>
+
+namespace {
+
+std::map<Display*, int> replies;
+
+}  // namespace
+
+// Every Xlib call that waits for the server goes through this function, which this program overrides.
+extern "C" Status _XReply(Display* display, xReply* reply, int extra, Bool discard)
+{
+    using Function = Status (*)(Display*, xReply*, int, Bool);
+    static const auto original = reinterpret_cast<Function>(dlsym(RTLD_NEXT, "_XReply"));
+    ++replies[display];
+    return original(display, reply, extra, discard);
+}
+
+namespace kite::testing {
+
+int roundTripsDuring(Display* display, const std::function<void()>& action)
+{
+    const int before = replies[display];
+    action();
+    return replies[display] - before;
+}
+
+}  // namespace kite::testing

@@ -1,0 +1,14 @@
+// round_trips.h: counts what a program waits for its display.
+
+#pragma once
+
+#include <X11/Xlib.h>
+
+#include <functional>
+
+namespace kite::testing {
+
+// Replies that this process waits for on the display while it runs the action.
+int roundTripsDuring(Display* display, const std::function<void()>& action);
+
+}  // namespace kite::testing
