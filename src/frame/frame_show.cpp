@@ -33,6 +33,13 @@ void placeToolbar(const Widgets& frame)
                   nullptr);
 }
 
+// All at once: the toolbar has its window already, and would lay itself out for every button.
+void manageButtons(Widget toolbar)
+{
+    auto* const buttons = resource<WidgetList>(toolbar, XmNchildren);
+    XtManageChildren(buttons, resource<Cardinal>(toolbar, XmNnumChildren));
+}
+
 // Before they are managed: the main window gives no place to a toolbar that it does not know as one. And
 // only what changes: it warns of every change while a toolbar that it knows is about to be destroyed.
 void install(const Widgets& frame, bool hasToolbar)
@@ -57,6 +64,7 @@ void show()
     const Widgets& frame = widgets();
     install(frame, hasToolbar);
     if (frame.menuBar) XtManageChild(frame.menuBar);
+    if (hasToolbar) manageButtons(frame.toolbar);
     if (hasToolbar) XtManageChild(frame.toolbar);
     if (hasToolbar && frame.menuBar && frame.scroller) placeToolbar(frame);
     if (frame.text) XmTextSetInsertionPosition(frame.text, XmTextGetLastPosition(frame.text));
