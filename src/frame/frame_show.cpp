@@ -33,6 +33,25 @@ void placeToolbar(const Widgets& frame)
                   nullptr);
 }
 
+bool hasItsHeight(Widget menuBar)
+{
+    XtWidgetGeometry given{};
+    given.request_mode = CWWidth;
+    given.width = resource<Dimension>(menuBar, XmNwidth);
+    XtWidgetGeometry wanted{};
+    XtQueryGeometry(menuBar, &given, &wanted);
+    return !(wanted.request_mode & CWHeight) ||
+           wanted.height == resource<Dimension>(menuBar, XmNheight);
+}
+
+// The shell keeps its size, and so the main window refuses a menu bar that menus have made higher; only
+// to what is managed anew it gives its height.
+void manageMenuBar(Widget menuBar)
+{
+    if (XtIsManaged(menuBar) && !hasItsHeight(menuBar)) XtUnmanageChild(menuBar);
+    XtManageChild(menuBar);
+}
+
 // All at once: the toolbar has its window already, and would lay itself out for every button.
 void manageButtons(Widget toolbar)
 {
@@ -63,7 +82,7 @@ void show()
     if (!hasToolbar && widgets().toolbar) dropToolbar();
     const Widgets& frame = widgets();
     install(frame, hasToolbar);
-    if (frame.menuBar) XtManageChild(frame.menuBar);
+    if (frame.menuBar) manageMenuBar(frame.menuBar);
     if (hasToolbar) manageButtons(frame.toolbar);
     if (hasToolbar) XtManageChild(frame.toolbar);
     if (hasToolbar && frame.menuBar && frame.scroller) placeToolbar(frame);
