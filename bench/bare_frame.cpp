@@ -75,10 +75,10 @@ void createStatusBar(Widget bar, XmFontList font)
 void createContents(BareFrame& frame)
 {
     XmFontList const proportional = loadFont(frame.display, kProportional);
-    XmFontList const buttons = loadFont(frame.display, kProportional);
+    frame.menuFont = loadFont(frame.display, kProportional);
     XmFontList const fixed = loadFont(frame.display, kFixed);
-    XtVaSetValues(frame.shell, XmNbuttonFontList, buttons, nullptr);
-    Widget menuBar = XmCreateMenuBar(frame.mainWindow, const_cast<char*>("menu"), nullptr, 0);
+    Widget const menuBar = frame.menuBar =
+        XmCreateMenuBar(frame.mainWindow, const_cast<char*>("menu"), nullptr, 0);
     Widget scroller =
         XtVaCreateManagedWidget("scroller", xmScrolledWindowWidgetClass, frame.mainWindow,
                                 XmNscrollingPolicy, XmAPPLICATION_DEFINED, nullptr);
@@ -129,6 +129,16 @@ void processUntilPainted(Widget text)
     while (!isPainted) XtAppProcessEvent(application, XtIMAll);
     XtRemoveEventHandler(text, ExposureMask, False, exposed, &isPainted);
     XSync(XtDisplay(text), False);
+}
+
+void processUntilAllPainted(Widget widget)
+{
+    processUntilPainted(widget);
+    XtAppContext const application = XtWidgetToApplicationContext(widget);
+    while (XtAppPending(application) & XtIMXEvent) {
+        while (XtAppPending(application) & XtIMXEvent) XtAppProcessEvent(application, XtIMXEvent);
+        XSync(XtDisplay(widget), False);
+    }
 }
 
 }  // namespace bench

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <X11/Intrinsic.h>
+#include <Xm/Xm.h>
 
 namespace bench {
 
@@ -12,7 +12,9 @@ struct BareFrame {
     Display* display;
     Widget shell;
     Widget mainWindow;
+    Widget menuBar;
     Widget text;
+    XmFontList menuFont;
 };
 
 BareFrame openBareFrame();
@@ -20,5 +22,8 @@ void closeBareFrame(BareFrame& frame);
 
 // Processes events until the text has been painted and the server has done so.
 void processUntilPainted(Widget text);
+
+// The same for a widget and everything inside it.
+void processUntilAllPainted(Widget widget);
 
 }  // namespace bench

@@ -2,6 +2,39 @@
 
 #include <kitegui.h>
 
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+
+namespace bench {
+
+namespace {
+
+class Directory {
+public:
+    Directory()
+    {
+        if (mkdtemp(name_.data())) withSlash_ = name_ + '/';
+    }
+    ~Directory()
+    {
+        std::error_code ignored;
+        std::filesystem::remove_all(name_.c_str(), ignored);
+    }
+    Directory(const Directory&) = delete;
+    Directory& operator=(const Directory&) = delete;
+
+    const char* name() const { return withSlash_.c_str(); }
+
+private:
+    std::string name_ = std::filesystem::temp_directory_path() / "kitegui-bench-XXXXXX";
+    std::string withSlash_ = "./";
+};
+
+}  // namespace
+
+}  // namespace bench
+
 int kxGetUPInt(const char*, const char*, int defaultValue)
 {
     return defaultValue;
@@ -11,9 +44,11 @@ void kxSetUPInt(const char*, const char*, int) {}
 
 void kxGetUPStr(const char*, const char*, char*, int) {}
 
+// An empty one of our own, for what a benchmark puts there.
 const char* kxAppDir(void)
 {
-    return "./";
+    static const bench::Directory directory;
+    return directory.name();
 }
 
 const char* kxFullName(const char* path)

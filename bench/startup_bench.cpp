@@ -4,47 +4,12 @@
 #include <benchmark/benchmark.h>
 #include <kitegui.h>
 
-#include <chrono>
-
 #include "bare_frame.h"
-#include "x_traffic.h"
+#include "measured.h"
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
-
-// What one start-up cost: the counters are totals that the framework divides by the iterations.
-class Measured {
-public:
-    explicit Measured(benchmark::State& state) : state_(state) {}
-
-    void begin()
-    {
-        roundTrips_ -= bench::roundTrips();
-        begun_ = Clock::now();
-    }
-
-    void end(Display* display)
-    {
-        state_.SetIterationTime(std::chrono::duration<double>(Clock::now() - begun_).count());
-        roundTrips_ += bench::roundTrips();
-        requests_ += static_cast<double>(NextRequest(display)) - 1;
-    }
-
-    void report()
-    {
-        using benchmark::Counter;
-        state_.counters["round_trips"] =
-            Counter(static_cast<double>(roundTrips_), Counter::kAvgIterations);
-        state_.counters["requests"] = Counter(requests_, Counter::kAvgIterations);
-    }
-
-private:
-    benchmark::State& state_;
-    Clock::time_point begun_;
-    long roundTrips_ = 0;
-    double requests_ = 0;
-};
+using bench::Measured;
 
 Measured* measured;  // the start-up that the handler below ends
 

@@ -21,6 +21,7 @@
 #include "images/image_loader.h"
 #include "toolkit/argument_list.h"
 #include "toolkit/resources.h"
+#include "toolkit/widget_pixmap.h"
 
 namespace kite::commands {
 
@@ -70,12 +71,6 @@ std::optional<Images> loadImages(Screen* screen, const std::string& path, Pixel 
     return Images{std::move(image), std::move(grey)};
 }
 
-void buttonDestroyed(Widget, XtPointer images, XtPointer)
-{
-    delete static_cast<Images*>(
-        images);  // NOLINT(cppcoreguidelines-owning-memory): made by createButton
-}
-
 void place(ArgumentList& arguments)
 {
     const Command* const previous = room().buttons.last();
@@ -112,17 +107,19 @@ void setCheckLook(ArgumentList& arguments, const Images& images)
     arguments.set(XmNselectInsensitivePixmap, images.greyed.get());
 }
 
-Widget createButton(Widget toolbar, Style style, bool isRaised, Images&& images)
+Widget createButton(Widget toolbar, Style style, bool isRaised, Images images)
 {
     ArgumentList arguments;
     setLook(arguments, images, isRaised || style == kCheck);
     if (style == kCheck) setCheckLook(arguments, images);
     place(arguments);
-    Widget const button = XtCreateManagedWidget(
+    // Managed when the toolbar is shown.
+    Widget const button = XtCreateWidget(
         "v_tbbtn", style == kCheck ? xmToggleButtonWidgetClass : xmPushButtonWidgetClass, toolbar,
         arguments.data(), arguments.size());
-    if (button)
-        XtAddCallback(button, XmNdestroyCallback, buttonDestroyed, new Images{std::move(images)});
+    if (!button) return nullptr;
+    freeWithWidget(button, images.image.release());
+    freeWithWidget(button, images.greyed.release());
     return button;
 }
 

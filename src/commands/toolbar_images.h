@@ -11,7 +11,7 @@ namespace kite::commands {
 
 inline constexpr int kImageSize = 21;  // pixels, both ways
 
-// Owns a pixmap.
+// Owns a pixmap until it belongs to a button.
 class OwnedPixmap {
 public:
     OwnedPixmap(Display* display, Pixmap pixmap) : display_(display), pixmap_(pixmap) {}
@@ -29,6 +29,7 @@ public:
     OwnedPixmap& operator=(OwnedPixmap&&) = delete;
 
     Pixmap get() const { return pixmap_; }
+    Pixmap release() { return std::exchange(pixmap_, None); }
 
 private:
     Display* display_;

@@ -33,6 +33,32 @@ void placeToolbar(const Widgets& frame)
                   nullptr);
 }
 
+bool hasItsHeight(Widget menuBar)
+{
+    XtWidgetGeometry given{};
+    given.request_mode = CWWidth;
+    given.width = resource<Dimension>(menuBar, XmNwidth);
+    XtWidgetGeometry wanted{};
+    XtQueryGeometry(menuBar, &given, &wanted);
+    return !(wanted.request_mode & CWHeight) ||
+           wanted.height == resource<Dimension>(menuBar, XmNheight);
+}
+
+// The shell keeps its size, and so the main window refuses a menu bar that menus have made higher; only
+// to what is managed anew it gives its height.
+void manageMenuBar(Widget menuBar)
+{
+    if (XtIsManaged(menuBar) && !hasItsHeight(menuBar)) XtUnmanageChild(menuBar);
+    XtManageChild(menuBar);
+}
+
+// All at once: the toolbar has its window already, and would lay itself out for every button.
+void manageButtons(Widget toolbar)
+{
+    auto* const buttons = resource<WidgetList>(toolbar, XmNchildren);
+    XtManageChildren(buttons, resource<Cardinal>(toolbar, XmNnumChildren));
+}
+
 // Before they are managed: the main window gives no place to a toolbar that it does not know as one. And
 // only what changes: it warns of every change while a toolbar that it knows is about to be destroyed.
 void install(const Widgets& frame, bool hasToolbar)
@@ -56,7 +82,8 @@ void show()
     if (!hasToolbar && widgets().toolbar) dropToolbar();
     const Widgets& frame = widgets();
     install(frame, hasToolbar);
-    if (frame.menuBar) XtManageChild(frame.menuBar);
+    if (frame.menuBar) manageMenuBar(frame.menuBar);
+    if (hasToolbar) manageButtons(frame.toolbar);
     if (hasToolbar) XtManageChild(frame.toolbar);
     if (hasToolbar && frame.menuBar && frame.scroller) placeToolbar(frame);
     if (frame.text) XmTextSetInsertionPosition(frame.text, XmTextGetLastPosition(frame.text));

@@ -62,7 +62,8 @@ TEST_F(Settings, AskWithTheirKeysDefaultsAndSizes)
 
 TEST_F(Settings, AreReadFromTheProfile)
 {
-    profile().integers = {{"spsec", 7}, {"logfm", 2}, {"mwndp", 0}, {"ch_height", 64}, {"tbbstyle", 1}};
+    profile().integers = {
+        {"spsec", 7}, {"logfm", 2}, {"mwndp", 0}, {"ch_height", 64}, {"tbbstyle", 1}};
     profile().strings = {{"logfn", "my.log"}, {"fnamm", "a"}, {"fnamn", "b"}, {"fnamt", "c"}};
     EXPECT_EQ(settings::startupHook(), 7);
     EXPECT_EQ(settings::logMode(), 2);

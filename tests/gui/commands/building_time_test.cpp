@@ -188,6 +188,47 @@ GUI_STARTUP_TEST(BuildingTime, MenuInAHandlerBeginsAnew)
         });
 }
 
+// The menu bar grows for it, and everything below makes room.
+GUI_TEST(BuildingTime, FirstMenuInAHandler)
+{
+    const int before = rectOf(app.find("v_menubar")).height;
+    recorder.onEvent(GUI_EVENT_COMMAND, -2, [] { buildMenu(); });
+    firstEvent();
+    settle();
+    const Rect menuBar = rectOf(app.find("v_menubar"));
+    EXPECT_GT(menuBar.height, before);
+    EXPECT_TRUE(isShown(entry("Menu")));
+    EXPECT_EQ(menuBar.width, rectOf(app.find("v_mainwnd")).width);
+    EXPECT_EQ(rectOf(app.find("v_scroll")).y, menuBar.bottom());
+    EXPECT_EQ(rectOf(app.find("v_scroll")).bottom(), rectOf(app.find("v_statusbar")).y);
+    choose("Menu", "Item");
+    EXPECT_EQ(recorder.count(toWindow(GUI_EVENT_COMMAND, 7, 1)), 1);
+}
+
+// More menus than one row holds.
+GUI_TEST(BuildingTime, MenusOfTwoRowsInAHandler)
+{
+    addImage("image");
+    recorder.onEvent(GUI_EVENT_COMMAND, -2, [] {
+        buildMenu();
+        for (int i = 0; i < 7; ++i) {
+            guiMenu("A long title");
+            guiMenuEnd();
+        }
+        guiToolbarButton("image", nullptr, GUI_PLAIN, 1);
+    });
+    firstEvent();
+    settle();
+    const Rect menuBar = rectOf(app.find("v_menubar"));
+    const Rect frame = rectOf(app.find("v_mainwnd"));
+    for (Widget const title : findWidgets("v_mbtn")) {
+        EXPECT_LE(rectOf(title).bottom(), menuBar.bottom());
+        EXPECT_LE(rectOf(title).right(), frame.right());
+    }
+    EXPECT_EQ(rectOf(app.find("v_toolbar")).y, menuBar.bottom());
+    EXPECT_EQ(rectOf(app.find("v_scroll")).y, rectOf(app.find("v_toolbar")).bottom());
+}
+
 // The levels are left as the host leaves them; a restart begins at the menu bar.
 GUI_STARTUP_TEST(BuildingTime, UnclosedMenusAreForgotten)
 {
