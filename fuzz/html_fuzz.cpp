@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
+#include <cstring>
 #include <string>
 #include <vector>
 
@@ -152,10 +153,11 @@ void lookForAttributes(const std::string& tag)
 {
     for (const char* name :
          {"readonly", "wrap", "=", "\"", "a very long name, longer than many tags"}) {
-        std::string value(kite::kAttributeValueSize + 1, '#');
-        const int result = kite::GetAttribute(tag.c_str(), name, value.data());
+        char value[kite::kAttributeValueSize + 1];
+        std::memset(value, '#', sizeof value);
+        const int result = kite::GetAttribute(tag.c_str(), name, value);
         require(result == 0 || result == 1);
-        require(value.back() == '#');
+        require(value[kite::kAttributeValueSize] == '#');
         const kite::Attribute found = kite::findAttribute(tag, name);
         require(found.isPresent == (result == 1));
         require(found.value.size() <= tag.size());

@@ -1,5 +1,7 @@
 // Much text, and long lines.
 
+#include <ctime>
+
 #include "painting_support.h"
 
 using namespace kite::testing;
@@ -19,7 +21,7 @@ GUI_TEST(LargeOutput, IsReadAndSavedToTheByte)
     EXPECT_EQ(guiOutputLineCount(), kLines);
     EXPECT_EQ(guiGetCurLine(0), kLines + 1);
     EXPECT_EQ(guiGetCurPos(0), 0);
-    const auto start = std::chrono::steady_clock::now();
+    const std::clock_t start = std::clock();
     char buffer[100];
     bool isSame = true;
     for (int i = 0; i < kLines; ++i) {
@@ -28,7 +30,7 @@ GUI_TEST(LargeOutput, IsReadAndSavedToTheByte)
     }
     EXPECT_TRUE(isSame);
     // A walk over the text for every line would be minutes.
-    EXPECT_LT(std::chrono::steady_clock::now() - start, patience());
+    EXPECT_LT(std::clock() - start, 10 * CLOCKS_PER_SEC);
     EXPECT_EQ(guiOutputLine(kLines, buffer, sizeof buffer), -1);
     EXPECT_EQ(guiSaveOutput("saved"), 0);
     EXPECT_EQ(contentsOf("saved"), all);
