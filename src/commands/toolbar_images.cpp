@@ -35,7 +35,7 @@ std::string imagePath(const char* image)
     std::string& directory = room().imageDirectory;
     if (directory.empty()) {
         const char* const application = kxAppDir();
-        directory = (application ? application : "") + std::string{kDirectory};
+        directory = std::string{application ? application : ""}.append(kDirectory);
     }
     return directory + image + kSuffix;
 }

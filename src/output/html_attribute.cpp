@@ -9,7 +9,7 @@ namespace {
 std::string_view withoutLeadingBlanks(std::string_view text)
 {
     const auto start = text.find_first_not_of(' ');
-    return start == text.npos ? std::string_view{} : text.substr(start);
+    return start == std::string_view::npos ? std::string_view{} : text.substr(start);
 }
 
 bool isWordByte(char byte)
@@ -32,8 +32,8 @@ std::string_view valueAt(std::string_view text)
 
 Attribute findAttribute(std::string_view text, std::string_view name)
 {
-    const auto at = name.empty() ? text.npos : text.rfind(name.front());
-    if (at == text.npos) return {};
+    const auto at = name.empty() ? std::string_view::npos : text.rfind(name.front());
+    if (at == std::string_view::npos) return {};
     std::string_view rest = text.substr(std::min(at + name.size(), text.size()));
     rest = withoutLeadingBlanks(rest);
     if (rest.empty() || rest.front() != '=') return {true, {}, at};

@@ -17,7 +17,7 @@ LineStarts::LineStarts(std::string_view text) : text_(text)
 {
     starts_.reserve(lineEnds(text) + 1);
     starts_.push_back(0);
-    for (auto end = text.find('\n'); end != text.npos; end = text.find('\n', end + 1))
+    for (auto end = text.find('\n'); end != std::string_view::npos; end = text.find('\n', end + 1))
         starts_.push_back(static_cast<std::uint32_t>(end + 1));
 }
 

@@ -22,9 +22,11 @@ bool waitForSelection()
 
 GUI_TEST(TextDrop, InsertsTheText)
 {
+    EXPECT_EQ(guiOutputLineCount(), 0);
     recorder.clear();
     const Drag drag{"text", "dragged"};
     EXPECT_TRUE(pumpUntil([&] { return textOf(app.find("v_text")) == "dragged"; }));
+    EXPECT_EQ(guiOutputLineCount(), 1) << "a reader sees it as well";
     settle();
     EXPECT_THAT(recorder.events(), IsEmpty());
 }

@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <chrono>
+#include <ctime>
 #include <string>
 
 #include "string_sink.h"
@@ -249,14 +249,14 @@ TEST(HtmlScan, HostileInputTakesLinearTime)
         for (int i = 0; i < times; ++i) text += piece;
         return text;
     };
-    const std::string tail = std::string(2'000'000, ' ') + "=" + std::string(2'000'000, '-');
+    const std::string tail = std::string(400'000, ' ') + "=" + std::string(400'000, '-');
     const std::string inputs[] = {
-        repeated("<body", 400'000),
-        repeated("<body ", 400'000) + "wread" + tail,
-        "wread" + tail + repeated("<body>", 400'000),
-        repeated("&", 2'000'000),
-        repeated("a<b>", 400'000),
-        repeated("a&b", 400'000),
+        repeated("<body", 80'000),
+        repeated("<body ", 80'000) + "wread" + tail,
+        "wread" + tail + repeated("<body>", 80'000),
+        repeated("&", 400'000),
+        repeated("a<b>", 80'000),
+        repeated("a&b", 80'000),
     };
     class Counter : public StringSink {
     public:
@@ -267,12 +267,12 @@ TEST(HtmlScan, HostileInputTakesLinearTime)
         }
         std::size_t inserted = 0;
     };
-    const auto start = std::chrono::steady_clock::now();
+    const std::clock_t start = std::clock();
     for (const std::string& input : inputs) {
         Counter sink;
         scanHtml(input, sink);
         EXPECT_LE(sink.inserted, 2 * input.size() + 2);
     }
-    // Quadratic would be hours.
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds{30});
+    // It is a tenth of that, on whatever machine and however busy; the square would be a minute.
+    EXPECT_LT(std::clock() - start, 10 * CLOCKS_PER_SEC);
 }

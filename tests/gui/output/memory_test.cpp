@@ -1,0 +1,130 @@
+// What a host is told when there is no memory. This program is asked for all that the library takes.
+
+#include <cstdlib>
+#include <new>
+
+#include "output_support.h"
+
+using namespace kite::testing;
+
+namespace {
+
+constexpr std::size_t kLarge = 100000;
+
+bool isExhausted = false;  // for pieces of that size and more
+
+void* allocate(std::size_t size)
+{
+    return isExhausted && size >= kLarge ? nullptr : std::malloc(size ? size : 1);
+}
+
+class Exhausted {
+public:
+    Exhausted() { isExhausted = true; }
+    ~Exhausted() { isExhausted = false; }
+};
+
+void fill(char byte)
+{
+    setOutput(std::string(kLarge, byte));
+}
+
+}  // namespace
+
+void* operator new(std::size_t size)
+{
+    if (void* const piece = allocate(size)) return piece;
+    throw std::bad_alloc{};
+}
+
+void* operator new[](std::size_t size)
+{
+    return operator new(size);
+}
+
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept
+{
+    return allocate(size);
+}
+
+void* operator new[](std::size_t size, const std::nothrow_t&) noexcept
+{
+    return allocate(size);
+}
+
+void operator delete(void* piece) noexcept
+{
+    std::free(piece);
+}
+
+void operator delete[](void* piece) noexcept
+{
+    std::free(piece);
+}
+
+void operator delete(void* piece, std::size_t) noexcept
+{
+    std::free(piece);
+}
+
+void operator delete[](void* piece, std::size_t) noexcept
+{
+    std::free(piece);
+}
+
+GUI_TEST(OutOfMemory, IsReportedByEveryReader)
+{
+    fill('a');
+    char buffer[] = "####";
+    {
+        const Exhausted memory;
+        EXPECT_MISUSE(guiOutputLineCount(), "GetLineCount: out of memory", -1);
+        EXPECT_MISUSE(guiOutputLine(0, buffer, sizeof buffer), "GetLine: out of memory", -1);
+        EXPECT_STREQ(buffer, "");
+        EXPECT_MISUSE(guiGetCurPos(0), "GetLineCount: out of memory", -1);
+        EXPECT_MISUSE(guiGetCurLine(0), "GetLineCount: out of memory", -1);
+        EXPECT_MISUSE(guiSaveOutput("saved"), "SaveOutput: out of memory", -1);
+        EXPECT_EQ(guiOutputLine(-1, buffer, sizeof buffer), -1) << "before the text is fetched";
+    }
+    EXPECT_EQ(contentsOf("saved"), "");
+    EXPECT_EQ(guiOutputLineCount(), 1);
+}
+
+// There is room for the text, and none for where its lines begin.
+GUI_TEST(OutOfMemory, ForTheLinesIsReportedToo)
+{
+    setOutput(std::string(kLarge - 100, '\n'));
+    {
+        const Exhausted memory;
+        EXPECT_MISUSE(guiOutputLineCount(), "GetLineCount: out of memory", -1);
+    }
+    EXPECT_EQ(resource<XtPointer>(outputText(), XmNuserData), nullptr);
+    EXPECT_EQ(guiOutputLineCount(), static_cast<int>(kLarge) - 100);
+}
+
+// The number of lines is not known then, and no line is below -1.
+GUI_TEST(OutOfMemory, SelectsNothing)
+{
+    fill('a');
+    const Exhausted memory;
+    EXPECT_MISUSE(guiSelOutputLine(1, 0, -1), "GetLineCount: out of memory", 0);
+    EXPECT_EQ(outputSelection(), kNothing);
+}
+
+GUI_STARTUP_TEST(OutOfMemory, WritesNoLine)
+{
+    host.profile().setInt("logfm", 1);
+    app.run([] {
+        const std::string long_(kLarge, 'x');
+        const std::string log = contentsOf("output.log");
+        guiWriteText("a");
+        {
+            const Exhausted memory;
+            EXPECT_MISUSE(guiWriteLine(long_.c_str()), "WriteLine: out of memory");
+        }
+        EXPECT_EQ(output(), "a");
+        EXPECT_EQ(contentsOf("output.log"), log + "a");
+        guiWriteLine(long_.c_str());
+        EXPECT_EQ(output().size(), kLarge + 2);
+    });
+}

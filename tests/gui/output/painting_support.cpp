@@ -1,0 +1,44 @@
+#include "painting_support.h"
+
+#include <thread>
+
+namespace kite::testing {
+
+namespace {
+
+// The text paints all of itself anew, by the server's demand.
+screen::Picture fresh()
+{
+    Widget const text = outputText();
+    XClearArea(XtDisplay(text), XtWindow(text), 0, 0, 0, 0, True);
+    settle();
+    return screen::grab(text);
+}
+
+}  // namespace
+
+void letQuietPass()
+{
+    settle();
+    std::this_thread::sleep_for(milliseconds{40});
+}
+
+bool isPainted()
+{
+    XSync(toolkit::display(), False);
+    const Shot shown;
+    return shown.picture() == fresh();
+}
+
+void expectPainted(const std::string& after)
+{
+    XSync(toolkit::display(), False);
+    const Shot shown;
+    const screen::Picture wanted = fresh();
+    EXPECT_EQ(shown.picture(), wanted) << after;
+    if (shown.picture() == wanted) return;
+    shown.picture().savePng("/tmp/wt-output-shown.png");
+    wanted.savePng("/tmp/wt-output-wanted.png");
+}
+
+}  // namespace kite::testing
