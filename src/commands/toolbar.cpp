@@ -20,8 +20,9 @@
 #include "frame/settings.h"
 #include "images/image_loader.h"
 #include "toolkit/argument_list.h"
+#include "toolkit/pixmaps.h"
 #include "toolkit/resources.h"
-#include "toolkit/widget_pixmap.h"
+#include "toolkit/x_error_trap.h"
 
 namespace kite::commands {
 
@@ -54,21 +55,34 @@ bool isAcceptableButton(const char* image, int style, int id)
     return true;
 }
 
+enum class Loading { Done, NoImage, WrongSize };
+
+// The server is asked once for both pixmaps: a host may be far from it, and a toolbar has many buttons.
+Loading tryLoad(Screen* screen, const std::string& path, Pixel background,
+                std::optional<Images>& loaded)
+{
+    const XErrorTrap trap{DisplayOfScreen(screen)};
+    const images::Picture picture = images::load(screen, path, background, images::Check::Later);
+    if (!picture) return Loading::NoImage;
+    OwnedPixmap image{screen, picture.pixmap};
+    OwnedPixmap grey = greyed(screen, image.get(), background);
+    awaitPixmap(screen, image.get());
+    if (trap.hasCaught()) return Loading::NoImage;
+    if (picture.width != kImageSize || picture.height != kImageSize) return Loading::WrongSize;
+    loaded.emplace(Images{std::move(image), std::move(grey)});
+    return Loading::Done;
+}
+
 // None after an error box.
 std::optional<Images> loadImages(Screen* screen, const std::string& path, Pixel background)
 {
-    const images::Picture picture = images::load(screen, path, background);
-    if (!picture) {
+    std::optional<Images> loaded;
+    const Loading result = tryLoad(screen, path, background, loaded);
+    if (result == Loading::NoImage)
         reportMisuse("ToolbarButton: cannot load image %s", path.c_str());
-        return std::nullopt;
-    }
-    OwnedPixmap image{DisplayOfScreen(screen), picture.pixmap};
-    if (picture.width != kImageSize || picture.height != kImageSize) {
+    if (result == Loading::WrongSize)
         reportMisuse("ToolbarButton: image %s has wrong size", path.c_str());
-        return std::nullopt;
-    }
-    OwnedPixmap grey = greyed(screen, image.get(), background);
-    return Images{std::move(image), std::move(grey)};
+    return loaded;
 }
 
 void place(ArgumentList& arguments)

@@ -55,7 +55,7 @@ OwnedPixmap greyed(Screen* screen, Pixmap image, Pixel background)
     XDrawPoints(display, copy, pen, const_cast<XPoint*>(points.data()), kPointCount,
                 CoordModeOrigin);
     XFreeGC(display, pen);
-    return {display, copy};
+    return {screen, copy};
 }
 
 }  // namespace kite::commands

@@ -6,7 +6,7 @@
 
 #include "frame/built_in_icon.h"
 #include "frame/host_services.h"
-#include "toolkit/widget_pixmap.h"
+#include "toolkit/pixmaps.h"
 
 namespace kite::frame {
 

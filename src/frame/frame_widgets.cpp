@@ -20,7 +20,7 @@
 #include "toolkit/compound_string.h"
 #include "toolkit/insertion_cursor.h"
 #include "toolkit/parked_copy.h"
-#include "toolkit/widget_pixmap.h"
+#include "toolkit/pixmaps.h"
 
 namespace kite::frame {
 

@@ -11,23 +11,23 @@ namespace kite::images {
 
 namespace {
 
-Picture readBmp(Screen* screen, const std::string& path, Pixel undrawn)
+Picture readBmp(Screen* screen, const std::string& path, Pixel undrawn, Check check)
 {
     FileSource file{path};
     if (!file.isOpen()) return {};
-    PixmapSink sink{screen, undrawn, transparentGrey};
+    PixmapSink sink{screen, undrawn, transparentGrey, check};
     return bmp::decode(file, sink) ? sink.take() : Picture{};
 }
 
 // Pictures that have a name here and no reader yet: their files are not opened.
-Picture readNothing(Screen*, const std::string&, Pixel)
+Picture readNothing(Screen*, const std::string&, Pixel, Check)
 {
     return {};
 }
 
 struct Reader {
     const char* extension;
-    Picture (*read)(Screen* screen, const std::string& path, Pixel undrawn);
+    Picture (*read)(Screen* screen, const std::string& path, Pixel undrawn, Check check);
 };
 
 constexpr Reader kReaders[] = {{"bmp", readBmp},     {"jpg", readNothing}, {"jpeg", readNothing},
@@ -50,11 +50,11 @@ std::string extensionOf(const std::string& path)
 
 }  // namespace
 
-Picture load(Screen* screen, const std::string& path, Pixel undrawn)
+Picture load(Screen* screen, const std::string& path, Pixel undrawn, Check check)
 {
     const std::string extension = extensionOf(path);
     for (const Reader& reader : kReaders)
-        if (reader.extension == extension) return reader.read(screen, path, undrawn);
+        if (reader.extension == extension) return reader.read(screen, path, undrawn, check);
     return {};
 }
 

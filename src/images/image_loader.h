@@ -19,8 +19,12 @@ struct Picture {
     explicit operator bool() const { return pixmap != kNoPixmap; }
 };
 
+// When the server is asked whether it could make the pixmap. Later: by the caller, who holds an XErrorTrap
+// around the loading and everything else that needs an answer.
+enum class Check { Now, Later };
+
 // Loads the file for the screen. What the picture does not draw keeps the undrawn pixel.
-Picture load(Screen* screen, const std::string& path, Pixel undrawn);
+Picture load(Screen* screen, const std::string& path, Pixel undrawn, Check check = Check::Now);
 
 // What shows where a picture has the grey 191, 191, 191, on displays that have exactly that grey: the
 // background of the menu bar. Without one the grey is a colour like others.

@@ -3,13 +3,15 @@
 #include <utility>
 
 #include "images/display_colours.h"
+#include "toolkit/pixmaps.h"
 #include "toolkit/x_error_trap.h"
 
 namespace kite::images {
 
-PixmapSink::PixmapSink(Screen* screen, Pixel undrawn, DirectPixels::Background transparentGrey)
+PixmapSink::PixmapSink(Screen* screen, Pixel undrawn, DirectPixels::Background transparentGrey,
+                       Check check)
     : screen_(screen), display_(DisplayOfScreen(screen)),
-      undrawn_(static_cast<std::uint32_t>(undrawn)), paletteDisplay_(display_),
+      undrawn_(static_cast<std::uint32_t>(undrawn)), check_(check), paletteDisplay_(display_),
       indexed_(loadingPalette(), undrawn_),
       direct_([this](Rgb wanted) { return allocateColour(display_, colormap(), wanted); },
               transparentGrey, undrawn_)
@@ -19,7 +21,7 @@ PixmapSink::PixmapSink(Screen* screen, Pixel undrawn, DirectPixels::Background t
 PixmapSink::~PixmapSink()
 {
     if (context_) XFreeGC(display_, context_);
-    if (picture_) XFreePixmap(display_, picture_.pixmap);
+    if (picture_) freePixmap(screen_, picture_.pixmap);
 }
 
 bool PixmapSink::begin(const bmp::Header& header, const std::vector<Rgb>& palette)
@@ -46,17 +48,18 @@ bool PixmapSink::begin(const bmp::Header& header, const std::vector<Rgb>& palett
 // The server may have no memory for it.
 bool PixmapSink::createPixmap()
 {
-    const XErrorTrap trap{display_};
-    const Pixmap pixmap =
-        XCreatePixmap(display_, RootWindowOfScreen(screen_), static_cast<unsigned>(picture_.width),
-                      static_cast<unsigned>(picture_.height),
-                      static_cast<unsigned>(DefaultDepthOfScreen(screen_)));
-    if (trap.hasCaught()) return false;
-    if (pixmap == kNoPixmap) {  // an id like others, were it not for what it says to our callers
-        XFreePixmap(display_, pixmap);
-        return false;
-    }
-    picture_.pixmap = pixmap;
+    std::optional<XErrorTrap> trap;
+    if (check_ == Check::Now) trap.emplace(display_);
+    OwnedPixmap pixmap{screen_,
+                       XCreatePixmap(display_, RootWindowOfScreen(screen_),
+                                     static_cast<unsigned>(picture_.width),
+                                     static_cast<unsigned>(picture_.height),
+                                     static_cast<unsigned>(DefaultDepthOfScreen(screen_)))};
+    if (trap) awaitPixmap(screen_, pixmap.get());
+    if (trap && trap->hasCaught()) return false;
+    // An id like others, were it not for what it says to our callers.
+    if (pixmap.get() == kNoPixmap) return false;
+    picture_.pixmap = pixmap.release();
     return true;
 }
 

@@ -18,7 +18,8 @@ namespace kite::images {
 // Frees what it has made, unless it was taken.
 class PixmapSink final : public bmp::Sink {
 public:
-    PixmapSink(Screen* screen, Pixel undrawn, DirectPixels::Background transparentGrey);
+    PixmapSink(Screen* screen, Pixel undrawn, DirectPixels::Background transparentGrey,
+               Check check);
     ~PixmapSink() override;
     PixmapSink(const PixmapSink&) = delete;
     PixmapSink& operator=(const PixmapSink&) = delete;
@@ -40,6 +41,7 @@ private:
     Screen* screen_;
     Display* display_;
     std::uint32_t undrawn_;
+    Check check_;
     PaletteDisplay paletteDisplay_;
     IndexedPixels indexed_;
     DirectPixels direct_;

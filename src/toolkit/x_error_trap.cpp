@@ -35,7 +35,8 @@ int XErrorTrap::noteError(Display* display, XErrorEvent* error)
 void XErrorTrap::await() const
 {
     if (nextUnchecked_ == NextRequest(display_)) return;
-    XSync(display_, False);
+    const bool isAnswered = LastKnownRequestProcessed(display_) + 1 == NextRequest(display_);
+    if (!isAnswered) XSync(display_, False);
     nextUnchecked_ = NextRequest(display_);
 }
 
