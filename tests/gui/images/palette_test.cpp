@@ -6,6 +6,7 @@
 #include "images/display_colours.h"
 #include "loaded.h"
 #include "round_trips.h"
+#include "toolkit/pixmaps.h"
 
 using namespace kite::testing;
 
@@ -112,7 +113,10 @@ GUI_TEST(Palette, OfALoadAllocatesOnTheDisplayOfThePicture)
         host.addFile("picture.bmp", BmpFile::indexed(8, {kRed}, {{0, 0}}).bytes());
     for (int round = 0; round < 3;
          ++round) {  // each time at an address that may have been one before
-        Display* const other = XOpenDisplay(nullptr);
+        int count = 0;
+        Display* const other =
+            XtOpenDisplay(XtDisplayToApplicationContext(toolkit::display()), nullptr, "other",
+                          "Other", nullptr, 0, &count, nullptr);
         ASSERT_NE(other, nullptr);
         kite::images::Picture picture;
         EXPECT_EQ(roundTripsDuring(toolkit::display(),
@@ -124,6 +128,7 @@ GUI_TEST(Palette, OfALoadAllocatesOnTheDisplayOfThePicture)
         ASSERT_TRUE(picture);
         XSync(other, False);
         EXPECT_EQ(pixelsOf(picture.pixmap), (Pixels{{serverPixel(kRed), serverPixel(kRed)}}));
-        XCloseDisplay(other);
+        kite::freePixmap(XDefaultScreenOfDisplay(other), picture.pixmap);
+        XtCloseDisplay(other);
     }
 }
