@@ -1,11 +1,11 @@
 # kite_gui_tests(NAME target SOURCES file… [LIBRARIES library…] [WM mwm openbox none]
-#                [TIMEOUT seconds] [SCREEN WxHxD])
+#                [TIMEOUT seconds] [SCREENS WxHxD…])
 #
-# A program of GUI tests, and one CTest test for each case of it and each window manager (mwm only when
-# none is named). TIMEOUT is for one case, 30 by default. The tests run in parallel: each has a display of
+# A program of GUI tests, and one CTest test for each case of it, each window manager (mwm only when
+# none is named) and each screen (a large one when none is named). TIMEOUT is for one case, 30 by default. The tests run in parallel: each has a display of
 # its own.
 function(kite_gui_tests)
-  cmake_parse_arguments(PARSE_ARGV 0 TEST "" "NAME;TIMEOUT;SCREEN" "SOURCES;LIBRARIES;WM")
+  cmake_parse_arguments(PARSE_ARGV 0 TEST "" "NAME;TIMEOUT" "SOURCES;LIBRARIES;WM;SCREENS")
   if(NOT TEST_WM)
     set(TEST_WM mwm)
   endif()
@@ -22,22 +22,32 @@ function(kite_gui_tests)
   # The library finds its host services in the program; stacks of hanging tests have names.
   set_target_properties(${TEST_NAME} PROPERTIES ENABLE_EXPORTS ON)
 
-  set(arguments --deadline=${TEST_TIMEOUT})
-  if(TEST_SCREEN)
-    list(APPEND arguments --screen=${TEST_SCREEN})
-  endif()
   string(REGEX REPLACE "_tests$" "" prefix ${TEST_NAME})
   # The harness ends a hanging test by itself, with a picture; CTest's own limit is for the rest.
   math(EXPR limit "${TEST_TIMEOUT} + 60")
+  if(NOT TEST_SCREENS)
+    set(TEST_SCREENS usual)
+  endif()
   list(LENGTH TEST_WM manager_count)
+  list(LENGTH TEST_SCREENS screen_count)
   foreach(manager IN LISTS TEST_WM)
-    set(suffix "")
-    if(manager_count GREATER 1)
-      set(suffix ".${manager}")
-    endif()
-    gtest_discover_tests(${TEST_NAME}
-      TEST_PREFIX "${prefix}." TEST_SUFFIX "${suffix}" TEST_LIST ${TEST_NAME}_${manager}
-      NO_PRETTY_VALUES EXTRA_ARGS --wm=${manager} ${arguments}
-      PROPERTIES TIMEOUT ${limit} LABELS gui)
+    foreach(screen IN LISTS TEST_SCREENS)
+      set(suffix "")
+      if(manager_count GREATER 1)
+        string(APPEND suffix ".${manager}")
+      endif()
+      if(screen_count GREATER 1)
+        string(APPEND suffix ".${screen}")
+      endif()
+      set(arguments --wm=${manager} --deadline=${TEST_TIMEOUT})
+      if(NOT screen STREQUAL usual)
+        list(APPEND arguments --screen=${screen})
+      endif()
+      gtest_discover_tests(${TEST_NAME}
+        TEST_PREFIX "${prefix}." TEST_SUFFIX "${suffix}" TEST_LIST ${TEST_NAME}_${manager}_${screen}
+        NO_PRETTY_VALUES
+        EXTRA_ARGS ${arguments}
+        PROPERTIES TIMEOUT ${limit} LABELS gui)
+    endforeach()
   endforeach()
 endfunction()

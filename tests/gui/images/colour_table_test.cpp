@@ -25,16 +25,6 @@ void fillColormap()
     XSync(connection(), False);
 }
 
-int roundTripsToLoad(const BmpFile& file)
-{
-    kite::images::Picture picture;
-    const int count =
-        roundTripsDuring(toolkit::display(), [&] { picture = loadBytes(file.bytes()); });
-    EXPECT_TRUE(picture);
-    XFreePixmap(toolkit::display(), picture.pixmap);
-    return count;
-}
-
 }  // namespace
 
 GUI_TEST(ColourTable, IsAskedOnceForEachColourThatIsDrawn)

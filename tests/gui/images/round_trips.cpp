@@ -1,3 +1,5 @@
+#include <gtest/gtest.h>
+
 #include "round_trips.h"
 
 #include <X11/Xlibint.h>
@@ -6,6 +8,10 @@
 #undef max
 
 #include <map>
+
+#include "loaded.h"
+#include "toolkit.h"
+#include "toolkit/pixmaps.h"
 
 namespace {
 
@@ -29,6 +35,16 @@ int roundTripsDuring(Display* display, const std::function<void()>& action)
     const int before = replies[display];
     action();
     return replies[display] - before;
+}
+
+int roundTripsToLoad(const BmpFile& file)
+{
+    images::Picture picture;
+    const int count =
+        roundTripsDuring(toolkit::display(), [&] { picture = loadBytes(file.bytes()); });
+    EXPECT_TRUE(picture);
+    freePixmap(defaultScreen(), picture.pixmap);
+    return count;
 }
 
 }  // namespace kite::testing

@@ -12,16 +12,6 @@ namespace {
 constexpr int kPixmap = 1;  // whether the server could make it
 constexpr int kProbes = 3;  // whether it computes colours as expected: once for a display
 
-int roundTripsToLoad(const BmpFile& file)
-{
-    kite::images::Picture picture;
-    const int count =
-        roundTripsDuring(toolkit::display(), [&] { picture = loadBytes(file.bytes()); });
-    EXPECT_TRUE(picture);
-    XFreePixmap(toolkit::display(), picture.pixmap);
-    return count;
-}
-
 BmpFile indexedNoise(int width, int height)
 {
     BmpFile::Indexes rows(static_cast<std::size_t>(height));
