@@ -227,7 +227,7 @@ KITEGUI_API extern int decorWindow;
  *   handler  the main frame's window handler, or null to use the host callback
  *
  * Returns 0, at once when the frame has been closed since guiInit; -1 when no guiInit has come since the
- * start or the last main loop, or when a main loop runs already.
+ * start or the last main loop, when a main loop runs already, or while a box waits.
  */
 KITEGUI_API int guiStart(GuiHandler handler);
 
@@ -506,7 +506,7 @@ KITEGUI_API int guiGetCurLine(int which);
  * does not have selects nothing new, and an end before the start selects nothing at all; the insertion
  * point goes to the nearest position to the end.
  *
- * Returns 1; 0 when there is no such line, the text is empty or there is no frame; -1 after
+ * Returns 1; 0 when there is no such line, the text is empty or there is no frame, and after
  * "GetLineCount: out of memory".
  */
 KITEGUI_API int guiSelOutputLine(int line, int startCol, int count);

@@ -182,7 +182,7 @@ int guiToolbarButton(const char* image, const char* tooltip, int style, int id)
 int guiToolbarSeparator(void)
 {
     if (!isConstructing()) return reportMisuse("ToolbarSeparator: cannot be used now");
-    if (room().buttons.count() == 0) return 0;
+    if (!room().buttons.last()) return 0;
     room().hasGapBeforeNext = true;
     return ++room().separators;
 }

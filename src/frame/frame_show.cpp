@@ -1,8 +1,11 @@
 // frame_show.cpp: the step that shows what the host has built.
 
+#include <X11/IntrinsicP.h>
 #include <Xm/MainW.h>
 #include <Xm/Text.h>
 #include <kitegui.h>
+
+#include <algorithm>
 
 #include "frame/dispatcher.h"
 #include "frame/frame_widgets.h"
@@ -19,18 +22,34 @@ bool hasToolbarButtons(const Widgets& frame)
     return frame.toolbar && resource<Cardinal>(frame.toolbar, XmNnumChildren) > 0;
 }
 
-// The main window would stack its areas by their own wishes; here the toolbar's height is fixed, and
-// what it takes comes off the Output area.
+// The main window would stack its areas by their own wishes, and leave a toolbar as low as it was when there
+// was no room for it once; here its height is fixed, and what it takes comes off the Output area.
 void placeToolbar(const Widgets& frame)
 {
+    const Widget scroller = frame.scroller;
     const int menuHeight = resource<Dimension>(frame.menuBar, XmNheight);
-    const int scrollerTop = resource<Position>(frame.scroller, XmNy);
-    const int scrollerHeight = resource<Dimension>(frame.scroller, XmNheight);
-    const int lowered = menuHeight + kToolbarHeight - scrollerTop;
-    XtVaSetValues(frame.toolbar, XmNx, 0, XmNy, menuHeight, XmNwidth,
-                  resource<Dimension>(frame.menuBar, XmNwidth), XmNheight, kToolbarHeight, nullptr);
-    XtVaSetValues(frame.scroller, XmNy, scrollerTop + lowered, XmNheight, scrollerHeight - lowered,
-                  nullptr);
+    const int scrollerTop = menuHeight + kToolbarHeight;
+    const int lowered = scrollerTop - resource<Position>(scroller, XmNy);
+    const int scrollerHeight = std::max(resource<Dimension>(scroller, XmNheight) - lowered, 1);
+    XtConfigureWidget(frame.toolbar, 0, static_cast<Position>(menuHeight),
+                      resource<Dimension>(frame.menuBar, XmNwidth), kToolbarHeight, 0);
+    XtConfigureWidget(scroller, resource<Position>(scroller, XmNx),
+                      static_cast<Position>(scrollerTop), resource<Dimension>(scroller, XmNwidth),
+                      static_cast<Dimension>(scrollerHeight),
+                      resource<Dimension>(scroller, XmNborderWidth));
+}
+
+bool canPlaceToolbar(const Widgets& frame)
+{
+    return frame.toolbar && XtIsManaged(frame.toolbar) && frame.menuBar && frame.scroller;
+}
+
+void resized(Widget, XtPointer, XEvent* event, Boolean*)
+{
+    const Widgets& frame = widgets();
+    if (event->type == ConfigureNotify && canPlaceToolbar(frame) &&
+        resource<Dimension>(frame.toolbar, XmNheight) != kToolbarHeight)
+        placeToolbar(frame);
 }
 
 bool hasItsHeight(Widget menuBar)
@@ -85,7 +104,8 @@ void show()
     if (frame.menuBar) manageMenuBar(frame.menuBar);
     if (hasToolbar) manageButtons(frame.toolbar);
     if (hasToolbar) XtManageChild(frame.toolbar);
-    if (hasToolbar && frame.menuBar && frame.scroller) placeToolbar(frame);
+    if (canPlaceToolbar(frame)) placeToolbar(frame);
+    XtAddEventHandler(frame.mainWindow, StructureNotifyMask, False, resized, nullptr);
     if (frame.text) XmTextSetInsertionPosition(frame.text, XmTextGetLastPosition(frame.text));
     XFlush(XtDisplay(frame.mainWindow));
 }

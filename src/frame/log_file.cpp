@@ -5,6 +5,8 @@
 #include <cstring>
 #include <ctime>
 
+#include "toolkit/never_destroyed.h"
+
 namespace {
 
 // A file that is open for one call. Its buffer is here and not on the heap: opening the log for every
@@ -37,16 +39,23 @@ void writeStamp(std::FILE* file, const char* what)
 {
     const std::time_t now = std::time(nullptr);
     std::tm local{};
+    tzset();  // the host may have changed the time zone
     localtime_r(&now, &local);
     std::fprintf(file, ">>>%s: %04d.%02d.%02d %02d:%02d:%02d\n", what, local.tm_year + 1900,
                  local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min, local.tm_sec);
 }
 
+struct StopAtUnload {
+    ~StopAtUnload() { kite::outputLog().stop(); }
+};
+
 }  // namespace
 
+// Never destroyed: a host may write in its last moments, when the stop line is there already.
 LogFile& kite::outputLog()
 {
-    static constinit LogFile log;
+    static LogFile& log = neverDestroyed<LogFile>();
+    static const StopAtUnload atUnload;
     return log;
 }
 

@@ -51,6 +51,8 @@ bool isLoopRunning()
 int guiStart(GuiHandler handler)
 {
     if (!kite::session::isOpen() || kite::isRunning || kite::frame::isStarting()) return GUI_FAILED;
+    // A box waits on this display, which the end of the main loop closes.
+    if (kite::isProcessingEvents()) return GUI_FAILED;
     kite::isRunning = true;
     if (kite::mainWindow()) kite::runUntilClosed(handler);  // else it was closed before it ran
     kite::endSession();

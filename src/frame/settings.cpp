@@ -2,7 +2,7 @@
 
 #include <clocale>
 #include <cmath>
-#include <cstdlib>
+#include <cstdio>
 #include <string_view>
 #include <vector>
 
@@ -135,9 +135,12 @@ int parseHoverDelay(const char* text)
 {
     // The decimal point is a point, whatever locale the host has chosen.
     static const locale_t plain = newlocale(LC_NUMERIC_MASK, "C", nullptr);
-    char* end = nullptr;
-    const float milliseconds = strtof_l(text, &end, plain) * 1000.0F;
-    if (end == text || std::isnan(milliseconds)) return kDefaultHoverDelay;
+    const locale_t chosen = uselocale(plain);
+    float seconds = 0.0F;
+    const bool isNumber = std::sscanf(text, "%f", &seconds) == 1 && !std::isnan(seconds);
+    uselocale(chosen);
+    if (!isNumber) return kDefaultHoverDelay;
+    const float milliseconds = seconds * 1000.0F;
     if (milliseconds < 0.0F) return -1;
     constexpr auto kLongest = 1.0e9F;
     return static_cast<int>(std::fmin(milliseconds, kLongest));

@@ -8,11 +8,24 @@
 
 namespace kite {
 
+// True inside any of the loops below.
+bool isProcessingEvents();
+
+class ProcessingEvents {
+public:
+    ProcessingEvents();
+    ~ProcessingEvents();
+
+    ProcessingEvents(const ProcessingEvents&) = delete;
+    ProcessingEvents& operator=(const ProcessingEvents&) = delete;
+};
+
 // Processes events of all kinds, one at a time, as long as `pending()` says so. The widget only names
 // the application; it may be destroyed meanwhile.
 template <typename Pending>
 void processEventsWhile(Widget widget, Pending pending)
 {
+    const ProcessingEvents scope;
     XtAppContext application = XtWidgetToApplicationContext(widget);
     while (pending()) {
         paintHeldText();

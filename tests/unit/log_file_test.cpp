@@ -14,6 +14,8 @@
 #include <sstream>
 #include <string>
 
+#include "frame/log_file.h"
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -384,4 +386,47 @@ TEST_F(LogFileTest, LinesSurviveAKill)
     std::string expected = kStart;
     for (int line = 1; line <= kLines; ++line) expected += std::to_string(line) + "\n";
     EXPECT_EQ(log(), expected);
+}
+
+// Stamps are in the local time at that moment.
+TEST_F(LogFileTest, FollowsTheTimeZone)
+{
+    LogFile log;
+    setenv("TZ", "AAA+10", 1);
+    log.start(path().c_str(), 1);
+    const std::string west = read(path());
+    setenv("TZ", "AAA-10", 1);
+    log.start(path().c_str(), 1);
+    const std::string east = read(path());
+    unsetenv("TZ");
+    tzset();
+    EXPECT_NE(west, east);
+}
+
+namespace {
+
+struct WritesAtTheEnd {
+    bool isUsed = false;
+    ~WritesAtTheEnd()
+    {
+        if (isUsed) kite::outputLog().write("last words", 1);
+    }
+};
+WritesAtTheEnd atTheEnd;  // older than the log: destroyed after its stop line
+
+}  // namespace
+
+TEST_F(LogFileTest, TakesTheLastWordsOfAHost)
+{
+    const pid_t child = fork();
+    if (child == 0) {
+        atTheEnd.isUsed = true;
+        kite::outputLog().start(path().c_str(), 1);
+        kite::outputLog().write("line", 1);
+        std::exit(0);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    ASSERT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
+    EXPECT_EQ(log(), kStart + std::string{"line\n\n>>>LogStopped: T\nlast words\n"});
 }

@@ -109,7 +109,7 @@ TEST(HoverDelay, IsSecondsAsADecimalNumber)
         {"-0.0001", -1}, {"", 2000},          {"soon", 2000}, {"  1.25", 1250},
         {"1.5s", 1500},  {"+3", 3000},        {".25", 250},   {"1e1", 10000},
         {"nan", 2000},   {"-inf", -1},        {"0.0004", 0},  {"-", 2000},
-        {"1,5", 1000},   {"99999", 99999000},
+        {"1,5", 1000},   {"99999", 99999000}, {"0x", 2000},
     };
     for (const auto& row : rows)
         EXPECT_EQ(settings::parseHoverDelay(row.text), row.milliseconds) << '"' << row.text << '"';

@@ -208,8 +208,19 @@ GUI_STARTUP_TEST(MenuBuild, NothingWithoutAFrame)
     EXPECT_EQ(guiMenuEnd(), -1);
     EXPECT_EQ(guiToolbarButton("save", nullptr, 0, 1), 0);
     EXPECT_EQ(guiToolbarSeparator(), 0);
-    app.run([] {});
+}
+
+GUI_STARTUP_TEST(MenuBuild, NothingAfterTheFrame)
+{
+    buildThenRun(
+        [] {
+            addImage("save");
+            guiToolbarButton("save", nullptr, 0, 1);
+        },
+        [] {});
     EXPECT_EQ(guiMenu("File"), -1);
+    EXPECT_EQ(guiToolbarButton("save", nullptr, 0, 2), 0);
+    EXPECT_EQ(guiToolbarSeparator(), 0);
 }
 
 // A host destroys a menu that it could find by its name.

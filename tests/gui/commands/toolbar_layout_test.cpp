@@ -40,6 +40,15 @@ void expectStacked()
     EXPECT_EQ(scroller.width, frame.width);
 }
 
+// More than a narrow frame has room for in a few rows.
+void addMenus(int count)
+{
+    for (int menu = 0; menu < count; ++menu) {
+        guiMenu("Menu title");
+        guiMenuEnd();
+    }
+}
+
 void expectPlaces(const std::vector<int>& lefts)
 {
     const auto buttons = toolbarButtons();
@@ -142,4 +151,43 @@ GUI_STARTUP_TEST(ToolbarLayout, OfARestart)
 GUI_STARTUP_TEST(ToolbarLayout, WithoutAMenu)
 {
     buildThenRun([] { addButtons(1); }, [] { expectStacked(); });
+}
+
+GUI_STARTUP_TEST(ToolbarLayout, KeepsItsHeightThroughASizeWithoutRoomForIt)
+{
+    buildThenRun(
+        [] {
+            addMenus(18);
+            addButtons(2);
+        },
+        [] {
+            for (const int height : {200, 500, 510}) {
+                guiMoveWin(10, 10, height == 200 ? 300 : 600, height);
+                ASSERT_TRUE(
+                    pumpUntil([&] { return rectOf(findWidget("v_mainwnd")).height == height; }));
+                settle();
+                const Rect menuBar = rectOf(findWidget("v_menubar"));
+                EXPECT_EQ(rectOf(findWidget("v_toolbar")).height, kToolbarHeight) << height;
+                EXPECT_EQ(rectOf(findWidget("v_scroll")).y, menuBar.bottom() + kToolbarHeight)
+                    << height;
+            }
+            expectStacked();
+            expectPlaces({5, 40});
+        });
+}
+
+GUI_STARTUP_TEST(ToolbarLayout, BelowAMenuBarHigherThanTheFrame)
+{
+    buildThenRun(
+        [] {
+            addMenus(60);
+            addButtons(2);
+        },
+        [] {
+            const Rect menuBar = rectOf(findWidget("v_menubar"));
+            ASSERT_GT(menuBar.height, 300);
+            EXPECT_EQ(rectOf(findWidget("v_toolbar")),
+                      (Rect{menuBar.x, menuBar.bottom(), menuBar.width, kToolbarHeight}));
+            EXPECT_EQ(rectOf(findWidget("v_scroll")).y, menuBar.bottom() + kToolbarHeight);
+        });
 }

@@ -63,6 +63,20 @@ GUI_STARTUP_TEST(MainLoop, NeedsAFrameThatIsOpen)
     EXPECT_THAT(recorder.events(), IsEmpty());
 }
 
+// Its end would close the display that the box waits on.
+GUI_STARTUP_TEST(MainLoop, DoesNotBeginInsideABox)
+{
+    app.init();
+    app.whenShown("v_infobox", [](Shown) {
+        guiClose(0);  // the box
+        guiClose(0);  // the frame
+        EXPECT_EQ(guiStart(Recorder::windowHandler()), GUI_FAILED);
+    });
+    guiInfoBox("message");
+    EXPECT_EQ(guiStart(Recorder::windowHandler()), 0);
+    EXPECT_THAT(recorder.events(), IsEmpty());
+}
+
 GUI_TEST(MainLoop, RunsTheHostsOwnTimers)
 {
     bool hasFired = false;

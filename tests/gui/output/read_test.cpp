@@ -139,7 +139,7 @@ GUI_STARTUP_TEST(GetCur, CountsBytesInALocaleWithLongCharacters)
         EXPECT_EQ(output(), "\xC3\xA4\xC3\xB6\n\xE2\x82\xACuro");
         EXPECT_EQ(insertionPoint(), XmTextGetLastPosition(outputText()));
         EXPECT_EQ(place(0), (Place{2, 6}));
-        EXPECT_EQ(guiSelOutputLine(2, 1, 2), 1);
+        EXPECT_EQ(guiSelOutputLine(2, 3, 2), 1);
         EXPECT_EQ(outputSelection(), (Selected{4, 6}));
         EXPECT_EQ(place(1), (Place{2, 3}));
         EXPECT_EQ(guiSaveOutput("part.txt"), 0);

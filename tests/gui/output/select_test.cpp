@@ -1,7 +1,11 @@
 // guiSelOutputLine.
 
+#include <X11/Xatom.h>
+
+#include <chrono>
 #include <climits>
 
+#include "connection.h"
 #include "output_support.h"
 
 using namespace kite::testing;
@@ -144,4 +148,44 @@ GUI_TEST(SelOutputLine, IsTheSelectionForOtherClientsToo)
     auto& running = const_cast<Process&>(client);
     ASSERT_TRUE(running.wait());
     EXPECT_EQ(client.output(), "cd");
+}
+
+namespace {
+
+// Whatever is selected there, and when: a window of another program.
+void selectElsewhere()
+{
+    static const Window window =
+        XCreateSimpleWindow(connection(), DefaultRootWindow(connection()), 0, 0, 1, 1, 0, 0, 0);
+    // To Xt two selections of one millisecond are one.
+    const auto start = std::chrono::steady_clock::now();
+    waitUntil([=] { return std::chrono::steady_clock::now() - start > milliseconds{3}; });
+    XSetSelectionOwner(connection(), XA_PRIMARY, window, CurrentTime);
+    XSync(connection(), False);
+}
+
+}  // namespace
+
+// The user has just marked a word in another program, and we have not heard of it.
+GUI_TEST(SelOutputLine, TakesTheSelectionFromOtherClients)
+{
+    setOutput("ab\ncd");
+    selectElsewhere();
+    EXPECT_EQ(guiSelOutputLine(2, 0, 2), 1);
+    EXPECT_EQ(outputSelection(), (Selected{3, 5}));
+    selectElsewhere();
+    EXPECT_EQ(guiSelOutputLine(1, 0, 2), 1);
+    EXPECT_EQ(outputSelection(), (Selected{0, 2}));
+    settle();
+    EXPECT_EQ(outputSelection(), (Selected{0, 2}));
+    EXPECT_EQ(XGetSelectionOwner(connection(), XA_PRIMARY), XtWindow(outputText()));
+}
+
+GUI_TEST(SelOutputLine, IsClearedByTheNextLine)
+{
+    setOutput("ab\ncd\n");
+    guiSelOutputLine(2, 0, 2);
+    guiWriteLine("next");
+    EXPECT_EQ(outputSelection(), kNothing);
+    EXPECT_EQ(guiGetCurPos(GUI_SELECTION_END), 0);
 }
