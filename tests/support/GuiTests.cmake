@@ -1,3 +1,8 @@
+# kite_precompiled(target): every source of it begins with GoogleTest's headers.
+function(kite_precompiled target)
+  target_precompile_headers(${target} REUSE_FROM kitegui_test_headers)
+endfunction()
+
 # kite_gui_tests(NAME target SOURCES file… [LIBRARIES library…] [WM mwm openbox none]
 #                [TIMEOUT seconds] [SCREENS WxHxD…])
 #
@@ -19,6 +24,7 @@ function(kite_gui_tests)
   add_executable(${TEST_NAME} ${TEST_SOURCES})
   target_link_libraries(${TEST_NAME} PRIVATE
     kitegui_test_support ${TEST_LIBRARIES} kitegui_warnings)
+  kite_precompiled(${TEST_NAME})
   # The library finds its host services in the program; stacks of hanging tests have names.
   set_target_properties(${TEST_NAME} PROPERTIES ENABLE_EXPORTS ON)
 

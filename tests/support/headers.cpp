@@ -1,0 +1,1 @@
+// headers.cpp: nothing but the precompiled headers, which belong to a target.
