@@ -54,7 +54,7 @@ struct StopAtUnload {
 // Never destroyed: a host may write in its last moments, when the stop line is there already.
 LogFile& kite::outputLog()
 {
-    static LogFile& log = neverDestroyed<LogFile>();
+    static auto& log = neverDestroyed<LogFile>();
     static const StopAtUnload atUnload;
     return log;
 }
