@@ -4,23 +4,32 @@
 
 #include <cstdarg>
 #include <cstdio>
+#include <string>
 
 namespace kite {
 
 namespace {
 
-constexpr int kLongestMessage = 2048;  // a path and a sentence
+std::string formatted(const char* format, std::va_list arguments)
+{
+    std::va_list again;
+    va_copy(again, arguments);
+    const int length = std::vsnprintf(nullptr, 0, format, arguments);
+    std::string text(length > 0 ? static_cast<std::size_t>(length) : 0, '\0');
+    std::vsnprintf(text.data(), text.size() + 1, format, again);
+    va_end(again);
+    return text;
+}
 
 }  // namespace
 
 int reportMisuse(const char* format, ...)
 {
-    char message[kLongestMessage];
     std::va_list arguments;
     va_start(arguments, format);
-    std::vsnprintf(message, sizeof message, format, arguments);
+    const std::string message = formatted(format, arguments);
     va_end(arguments);
-    guiErrorBox(message);
+    guiErrorBox(message.c_str());
     return GUI_FAILED;
 }
 

@@ -4,6 +4,7 @@
 #include <Xm/Text.h>
 
 #include "frame/main_frame.h"
+#include "toolkit/held_redisplay.h"
 
 namespace kite::output {
 
@@ -11,6 +12,12 @@ Widget text()
 {
     Widget const text = frame::widgets().text;
     return text && !text->core.being_destroyed ? text : nullptr;
+}
+
+Widget textToRead()
+{
+    paintOverdueText();
+    return text();
 }
 
 Range selection(Widget text)

@@ -10,6 +10,9 @@ namespace kite::output {
 // Null while there is no frame, and when the text was destroyed by itself.
 Widget text();
 
+// The same for calls that do not write: what waits for longer than it should is painted.
+Widget textToRead();
+
 // Positions in the text, left before right.
 struct Range {
     XmTextPosition left = 0;

@@ -30,7 +30,7 @@ XmTextPosition position(Widget area, int which)
 // What a function of the index makes of the position; 0 for an empty text.
 int measure(int which, int (LineStarts::*measured)(std::size_t) const)
 {
-    Widget const area = text();
+    Widget const area = textToRead();
     if (!area) return GUI_FAILED;
     const LineStarts* const lines = parkCopy(area);
     if (!lines) return reportMisuse("GetLineCount: out of memory");
@@ -46,7 +46,7 @@ using namespace kite;
 
 int guiOutputLineCount(void)
 {
-    Widget const area = output::text();
+    Widget const area = output::textToRead();
     if (!area) return GUI_FAILED;
     const LineStarts* const lines = parkCopy(area);
     return lines ? lines->count() : reportMisuse("GetLineCount: out of memory");
@@ -56,7 +56,7 @@ int guiOutputLine(int line, char* buf, int size)
 {
     if (!isUsableBuffer(buf, size)) return reportMisuse("GetLine: invalid buffer");
     buf[0] = '\0';
-    Widget const area = output::text();
+    Widget const area = output::textToRead();
     if (!area || line < 0) return GUI_FAILED;
     const LineStarts* const lines = parkCopy(area);
     if (!lines) return reportMisuse("GetLine: out of memory");

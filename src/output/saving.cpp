@@ -38,7 +38,7 @@ using namespace kite;
 
 int guiSaveOutput(const char* path)
 {
-    Widget const area = output::text();
+    Widget const area = output::textToRead();
     if (!area) return GUI_FAILED;
     if (!path || !*path) return reportMisuse("SaveOutput: invalid file name");
     const TextCopy copy = copyOfText(area);

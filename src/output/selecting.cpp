@@ -61,7 +61,7 @@ using namespace kite;
 int guiSelOutputLine(int line, int startCol, int count)
 {
     if (line < 1 || line - 1 > guiOutputLineCount()) return 0;
-    Widget const area = output::text();
+    Widget const area = output::textToRead();
     if (!area) return 0;
     const LineStarts* const lines = parkCopy(area);
     if (!lines) return reportMisuse("GetLineCount: out of memory");

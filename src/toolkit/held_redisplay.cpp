@@ -15,9 +15,9 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 // Raw handlers: they ask the server for nothing that the widget does not get already.
-constexpr EventMask kInput = KeyPressMask | KeyReleaseMask | ButtonPressMask | ButtonReleaseMask |
-                             PointerMotionMask | ButtonMotionMask | EnterWindowMask |
-                             LeaveWindowMask | FocusChangeMask;
+constexpr EventMask kEvents = KeyPressMask | KeyReleaseMask | ButtonPressMask | ButtonReleaseMask |
+                              PointerMotionMask | ButtonMotionMask | EnterWindowMask |
+                              LeaveWindowMask | FocusChangeMask | ExposureMask;
 
 struct State {
     bool isHeld = false;        // raised by hold, lowered by whatever ends it
@@ -40,8 +40,8 @@ void timeIsOver(XtPointer, XtIntervalId*)
     paintHeldText();
 }
 
-// Clicks, keys and scrolling find the text as it is shown.
-void inputComes(Widget, XtPointer, XEvent*, Boolean*)
+// Clicks, keys and scrolling find the text as it is shown; and what was exposed is not left blank.
+void eventComes(Widget, XtPointer, XEvent*, Boolean*)
 {
     paintHeldText();
 }
@@ -67,9 +67,9 @@ void displayCloses(Display* display)
     state.text.abandon();
 }
 
-void watchInput(Widget widget)
+void watchEvents(Widget widget)
 {
-    if (widget) XtInsertRawEventHandler(widget, kInput, False, inputComes, nullptr, XtListHead);
+    if (widget) XtInsertRawEventHandler(widget, kEvents, False, eventComes, nullptr, XtListHead);
 }
 
 void watch(Widget text)
@@ -79,11 +79,11 @@ void watch(Widget text)
     XtRemoveCallback(text, XmNdestroyCallback, textDestroyed, nullptr);
     XtAddCallback(text, XmNdestroyCallback, textDestroyed, nullptr);
     callBeforeClosing(XtDisplay(text), displayCloses);
-    watchInput(text);
+    watchEvents(text);
     Widget const scroller = XtParent(text);
     if (!XmIsScrolledWindow(scroller)) return;
-    watchInput(resource<Widget>(scroller, XmNhorizontalScrollBar));
-    watchInput(resource<Widget>(scroller, XmNverticalScrollBar));
+    watchEvents(resource<Widget>(scroller, XmNhorizontalScrollBar));
+    watchEvents(resource<Widget>(scroller, XmNverticalScrollBar));
 }
 
 void hold(Widget text)
@@ -119,6 +119,11 @@ HeldRedisplay::~HeldRedisplay()
         paintHeldText();
     else
         paintLater(rest);
+}
+
+void paintOverdueText()
+{
+    if (state.isHeld && Clock::now() - state.painted >= kPaintInterval) paintHeldText();
 }
 
 void paintHeldText()

@@ -29,4 +29,7 @@ public:
 // something, or waits for him.
 void paintHeldText();
 
+// The same, when the interval is over.
+void paintOverdueText();
+
 }  // namespace kite

@@ -55,8 +55,7 @@ void kxGetUPStr(const char* section, const char* key, char* buffer, int size)
 
 const char* kxAppDir(void)
 {
-    static const std::string directory = HostDouble::instance().appDir().string() + '/';
-    return directory.c_str();
+    return HostDouble::instance().appDirName().c_str();
 }
 
 const char* kxFullName(const char* path)

@@ -37,6 +37,10 @@ public:
     // Empty at the start, gone when the process ends.
     const std::filesystem::path& appDir() const { return directory_.path(); }
 
+    // The same under the name that the host gives it; before the library has asked for it.
+    const std::string& appDirName() const { return appDirName_; }
+    void setAppDirName(const std::string& name) { appDirName_ = name; }
+
     // Makes a file below the application directory, with the folders that it needs.
     std::filesystem::path addFile(const std::string& name, const std::string& contents);
 
@@ -54,6 +58,7 @@ private:
 
     Profile profile_;
     TemporaryDirectory directory_{"app"};
+    std::string appDirName_ = directory_.path().string() + '/';
     std::vector<ExecCall> commands_;
     std::function<int(const std::string&)> onExec_;  // takes the place of the fixed result
     int execResult_ = 0;

@@ -155,6 +155,16 @@ GUI_STARTUP_TEST(ToolbarMisuse, ImagesHaveOneSize)
     EXPECT_EQ(addButton(GUI_PLAIN, 1), 1);
 }
 
+GUI_STARTUP_TEST(ToolbarMisuse, NamesTheWholePath)
+{
+    std::string directory = host.appDirName();
+    while (directory.size() < 3000) directory += "././";
+    host.setAppDirName(directory);
+    app.init();
+    EXPECT_MISUSE(guiToolbarButton("missing", nullptr, GUI_PLAIN, 1),
+                  "ToolbarButton: cannot load image " + directory + "tbbb/missing.bmp", -1);
+}
+
 GUI_STARTUP_TEST(ToolbarMisuse, ImageNamesOfAllLengths)
 {
     app.init();

@@ -81,6 +81,30 @@ GUI_TEST(Painting, IsDoneBeforeWhateverShowsTheUserSomething)
     }
 }
 
+GUI_TEST(Painting, IsDoneByReadersOnceItIsOverdue)
+{
+    writeMany(3);
+    letQuietPass();
+    guiOutputLineCount();
+    expectPainted("guiOutputLineCount");
+}
+
+// A handler that takes X events only, and no time-outs.
+GUI_TEST(Painting, OfWhatIsExposedMeanwhile)
+{
+    recorder.onEvent(GUI_EVENT_COMMAND, 5, [] {
+        writeMany(3);
+        Widget const text = outputText();
+        XClearArea(XtDisplay(text), XtWindow(text), 0, 0, 0, 0, True);
+        XSync(XtDisplay(text), False);
+        XmUpdateDisplay(text);
+        XSync(XtDisplay(text), False);
+        EXPECT_GT(screen::grab(text).colours().size(), 1U);
+        expectPainted("XmUpdateDisplay");
+    });
+    guiRunPlugin([](GuiHandler dispatch) { return dispatch(GUI_EVENT_COMMAND, 5, 0, 0); });
+}
+
 GUI_TEST(Painting, IsDoneWhenTheHandlerReturns)
 {
     for (int round = 0; round < 5; ++round) {
