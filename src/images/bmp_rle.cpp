@@ -1,6 +1,7 @@
 #include "images/bmp_rle.h"
 
 #include <algorithm>
+#include <array>
 
 namespace kite::images::bmp {
 
@@ -22,16 +23,16 @@ public:
     // A run of two values in turn.
     void draw(int count, int first, int second)
     {
-        const std::int64_t width = std::ssize(row_);
-        if (y_ >= 0 && x_ < width) {
-            const auto begin = row_.begin() + x_;
-            const auto end = begin + std::min<std::int64_t>(count, width - x_);
-            std::fill(begin, end, static_cast<Index>(first));
-            if (second != first)
-                for (auto at = begin; end - at > 1; at += 2) at[1] = static_cast<Index>(second);
-            isDrawn_ = true;
-        }
-        x_ += count;
+        const std::span<Index> run = advance(count);
+        std::fill(run.begin(), run.end(), static_cast<Index>(first));
+        if (second != first)
+            for (std::size_t i = 1; i < run.size(); i += 2) run[i] = static_cast<Index>(second);
+    }
+
+    void draw(std::span<const std::uint8_t> values)
+    {
+        const std::span<Index> run = advance(static_cast<int>(values.size()));
+        std::copy_n(values.begin(), run.size(), run.begin());
     }
 
     void moveBy(int right, int up)
@@ -56,6 +57,18 @@ public:
     }
 
 private:
+    // What is in the picture of so many pixels from here on; goes behind them.
+    std::span<Index> advance(int count)
+    {
+        const std::int64_t start = x_;
+        x_ += count;
+        const std::int64_t width = std::ssize(row_);
+        if (y_ < 0 || start >= width) return {};
+        isDrawn_ = true;
+        const auto inside = std::min<std::int64_t>(count, width - start);
+        return {row_.data() + start, static_cast<std::size_t>(inside)};
+    }
+
     Sink& sink_;
     std::int64_t x_ = 0;
     std::int64_t y_;
@@ -111,13 +124,23 @@ private:
 
     void drawAbsolute(int count)
     {
-        const int perByte = isNibbles_ ? 2 : 1;
-        for (int left = count; left > 0; left -= perByte) {
-            const int value = source_.next();
-            if (value == ByteSource::kEnd) return;
-            drawBoth(std::min(left, perByte), value);
-        }
+        std::array<std::uint8_t, 255> buffer;  // an escape has no longer run
+        const auto bytes = static_cast<std::size_t>(isNibbles_ ? (count + 1) / 2 : count);
+        const std::span<std::uint8_t> values{buffer.data(), bytes};
+        if (!source_.read(values)) return;
+        if (isNibbles_)
+            drawNibbles(values, count);
+        else
+            pen_.draw(values);
         if (hasPadding(count)) source_.next();
+    }
+
+    void drawNibbles(std::span<const std::uint8_t> values, int count)
+    {
+        for (const std::uint8_t value : values) {
+            drawBoth(std::min(count, 2), value);
+            count -= 2;
+        }
     }
 
     // A nibble run of 4n + 3 pixels ends on a whole word and is padded nevertheless: intended, files of

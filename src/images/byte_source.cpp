@@ -9,6 +9,7 @@ namespace kite::images {
 bool ByteSource::refill()
 {
     if (hasEnded_) return false;
+    chunkOffset_ += chunk_.size();
     chunk_ = nextChunk();
     position_ = 0;
     hasEnded_ = chunk_.empty();
@@ -27,9 +28,15 @@ bool ByteSource::read(std::span<std::uint8_t> to)
     return true;
 }
 
+// Most pictures fit into one chunk, which need not be read again.
 bool ByteSource::seek(std::uint64_t offset)
 {
+    if (offset >= chunkOffset_ && offset - chunkOffset_ <= chunk_.size()) {
+        position_ = static_cast<std::size_t>(offset - chunkOffset_);
+        return true;
+    }
     chunk_ = {};
+    chunkOffset_ = offset;
     position_ = 0;
     return moveTo(offset);
 }

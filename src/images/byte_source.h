@@ -39,7 +39,8 @@ private:
     bool refill();
 
     std::span<const std::uint8_t> chunk_;
-    std::size_t position_ = 0;  // in the chunk
+    std::uint64_t chunkOffset_ = 0;  // of the chunk in the file
+    std::size_t position_ = 0;       // in the chunk
     bool hasEnded_ = false;
 };
 

@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace kite::images {
@@ -25,7 +26,7 @@ FileSource::FileSource(const std::string& path)
         return;
     }
     size_ = static_cast<std::uint64_t>(status.st_size);
-    buffer_.resize(kChunk);
+    buffer_.resize(std::clamp<std::size_t>(size_, 1, kChunk));
 }
 
 FileSource::~FileSource()

@@ -21,20 +21,21 @@ IndexedPixels::IndexedPixels(ImagePalette& palette, std::uint32_t undrawn)
     : palette_(palette), undrawn_(undrawn)
 {
     pixels_.fill(kAsk);
+    pixels_[slot(bmp::kUndrawn)] = undrawn_;
 }
 
-std::uint32_t IndexedPixels::pixelOf(bmp::Index index)
+void IndexedPixels::ask(bmp::Index index)
 {
-    if (index == bmp::kUndrawn) return undrawn_;
-    std::uint64_t& pixel = pixels_[static_cast<std::size_t>(index)];
-    if (pixel == kAsk)
-        pixel = palette_.isGood(index) ? static_cast<std::uint32_t>(palette_.get(index)) : undrawn_;
-    return static_cast<std::uint32_t>(pixel);
+    pixels_[slot(index)] =
+        palette_.isGood(index) ? static_cast<std::uint32_t>(palette_.get(index)) : undrawn_;
 }
 
 void IndexedPixels::convert(std::span<const bmp::Index> from, std::span<std::uint32_t> to)
 {
-    for (std::size_t x = 0; x < from.size(); ++x) to[x] = pixelOf(from[x]);
+    for (std::size_t x = 0; x < from.size(); ++x) {
+        if (pixels_[slot(from[x])] == kAsk) ask(from[x]);
+        to[x] = static_cast<std::uint32_t>(pixels_[slot(from[x])]);
+    }
 }
 
 DirectPixels::DirectPixels(Allocate allocate, Background background, std::uint32_t undrawn)

@@ -26,13 +26,16 @@ public:
 private:
     static constexpr std::size_t kColours = 256;
 
-    std::uint32_t pixelOf(bmp::Index index);
+    // The undrawn index comes first.
+    static std::size_t slot(bmp::Index index) { return static_cast<std::size_t>(index + 1); }
+
+    void ask(bmp::Index index);
 
     ImagePalette& palette_;
     std::uint32_t undrawn_;
     // Asked for once a load. kAsk is no pixel: those have 32 bits.
     static constexpr std::uint64_t kAsk = ~std::uint64_t{0};
-    std::array<std::uint64_t, kColours> pixels_;
+    std::array<std::uint64_t, kColours + 1> pixels_;
 };
 
 // Pictures of 24 bits.
