@@ -23,7 +23,7 @@ public:
     {
         ConsoleReporter::ReportRuns(runs);
         for (const Run& run : runs)
-            if (!run.error_occurred && run.run_type == Run::RT_Iteration) note(run);
+            if (!run.error_occurred && counts(run)) note(run);
     }
 
     void printPairs() const
@@ -34,6 +34,12 @@ public:
     }
 
 private:
+    // Of several repetitions the median, which comes after them.
+    static bool counts(const Run& run)
+    {
+        return run.run_type == Run::RT_Iteration || run.aggregate_name == "median";
+    }
+
     // Names are "work/bare" and "work/kitegui", perhaps with the framework's own words behind.
     void note(const Run& run)
     {

@@ -411,9 +411,11 @@ KITEGUI_API int guiGetCommandCheck(int id);
  * Output area
  *
  * The host's running output: one text of plain bytes, in which a line ends with "\n" or with the text.
- * The user may edit and select in it. What is written is shown within 16 milliseconds of anything else
- * happening, and when the handler returns at the latest; what is read is always the text as it is.
- * Positions and columns count bytes. Everything here may be called from guiInit until the frame is closed.
+ * The user may edit and select in it. What is written after a pause is shown at once; what follows closely
+ * is shown together, 16 milliseconds later by the event loop or the next call of this section, or before
+ * that by guiSetStatusLine, guiSetProgress, guiBeep, guiUserBreak and every box; and at the latest when the
+ * handler returns. What is read is always the text as it is. Positions and columns count bytes. Everything
+ * here may be called from guiInit until the frame is closed.
  * ------------------------------------------------------------------------------------------ */
 
 /* Positions that guiGetCurPos and guiGetCurLine measure. */

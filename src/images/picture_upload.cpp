@@ -41,8 +41,8 @@ void PictureUpload::DestroyImage::operator()(XImage* image) const
     XDestroyImage(image);
 }
 
-PictureUpload::PictureUpload(Screen* screen, Pixmap pixmap, int width, int height)
-    : display_(DisplayOfScreen(screen)), pixmap_(pixmap), context_(DefaultGCOfScreen(screen)),
+PictureUpload::PictureUpload(Screen* screen, Pixmap pixmap, GC context, int width, int height)
+    : display_(DisplayOfScreen(screen)), pixmap_(pixmap), context_(context),
       image_(XCreateImage(display_, DefaultVisualOfScreen(screen),
                           static_cast<unsigned>(DefaultDepthOfScreen(screen)), ZPixmap, 0, nullptr,
                           static_cast<unsigned>(width), static_cast<unsigned>(height),

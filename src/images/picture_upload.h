@@ -13,7 +13,7 @@ namespace kite::images {
 
 class PictureUpload {
 public:
-    PictureUpload(Screen* screen, Pixmap pixmap, int width, int height);
+    PictureUpload(Screen* screen, Pixmap pixmap, GC context, int width, int height);
 
     // Rows come from the bottom up. Between two there may be a gap.
     void row(int y, std::span<const std::uint32_t> pixels);

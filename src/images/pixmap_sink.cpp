@@ -29,6 +29,7 @@ bool PixmapSink::begin(const bmp::Header& header, const std::vector<Rgb>& palett
     picture_.width = header.width;
     picture_.height = header.height;
     if (!createPixmap()) return false;
+    createContext();
     undrawnRows_ = header.height;
     if (header.isIndexed()) {
         loadingPalette().reset(colormap());
@@ -40,7 +41,7 @@ bool PixmapSink::begin(const bmp::Header& header, const std::vector<Rgb>& palett
         direct_.useComputed(computedColours(display_, colormap()));
     }
     row_.resize(static_cast<std::size_t>(header.width));
-    upload_.emplace(screen_, picture_.pixmap, header.width, header.height);
+    upload_.emplace(screen_, picture_.pixmap, context_, header.width, header.height);
     return true;
 }
 
@@ -62,22 +63,20 @@ bool PixmapSink::createPixmap()
     return true;
 }
 
-// Most pictures draw every pixel, and need none.
-GC PixmapSink::pen()
+// One of our own: the screen's is everybody's, and a host may have changed it.
+void PixmapSink::createContext()
 {
-    if (context_) return context_;
     XGCValues values{};
     values.foreground = undrawn_;
     values.background = undrawn_;
     context_ = XCreateGC(display_, picture_.pixmap, GCForeground | GCBackground, &values);
-    return context_;
 }
 
 // Rows that do not come, from the given one down to the latest one that did.
 void PixmapSink::fillFrom(int y)
 {
     if (y < undrawnRows_)
-        XFillRectangle(display_, picture_.pixmap, pen(), 0, y,
+        XFillRectangle(display_, picture_.pixmap, context_, 0, y,
                        static_cast<unsigned>(picture_.width),
                        static_cast<unsigned>(undrawnRows_ - y));
     undrawnRows_ = y;

@@ -33,7 +33,7 @@ public:
 
 private:
     bool createPixmap();
-    GC pen();
+    void createContext();
     void fillFrom(int y);
     void send(int y);
     Colormap colormap() const { return DefaultColormapOfScreen(screen_); }

@@ -77,3 +77,14 @@ GUI_TEST(PictureLoader, ShowsEachColour)
     EXPECT_EQ(pixelsLoaded(BmpFile::indexed(8, {kGrey}, {{0}}).bytes()),
               (Pixels{{serverPixel(kGrey)}}));
 }
+
+// The screen's own graphics context is everybody's.
+GUI_TEST(PictureLoader, DoesNotDependOnTheContextOfTheScreen)
+{
+    Display* const display = toolkit::display();
+    GC const context = DefaultGCOfScreen(defaultScreen());
+    XSetFunction(display, context, GXinvert);
+    const Pixels pixels = pixelsLoaded(BmpFile::direct({{kRed, kGreen}}).bytes());
+    XSetFunction(display, context, GXcopy);
+    EXPECT_EQ(pixels, (Pixels{{serverPixel(kRed), serverPixel(kGreen)}}));
+}
