@@ -4,6 +4,7 @@
 
 #include "commands/command_room.h"
 #include "frame/host_services.h"
+#include "toolkit/screen_pen.h"
 
 namespace kite::commands {
 
@@ -47,14 +48,10 @@ OwnedPixmap greyed(Screen* screen, Pixmap image, Pixel background)
     const auto depth = static_cast<unsigned int>(DefaultDepthOfScreen(screen));
     const Pixmap copy =
         XCreatePixmap(display, RootWindowOfScreen(screen), kImageSize, kImageSize, depth);
-    XGCValues values{};
-    values.foreground = background;
-    values.graphics_exposures = False;
-    GC const pen = XCreateGC(display, copy, GCForeground | GCGraphicsExposures, &values);
+    GC const pen = screenPen(screen, background);
     XCopyArea(display, image, copy, pen, 0, 0, kImageSize, kImageSize, 0, 0);
     XDrawPoints(display, copy, pen, const_cast<XPoint*>(points.data()), kPointCount,
                 CoordModeOrigin);
-    XFreeGC(display, pen);
     return {screen, copy};
 }
 

@@ -4,6 +4,7 @@
 
 #include "images/display_colours.h"
 #include "toolkit/pixmaps.h"
+#include "toolkit/screen_pen.h"
 #include "toolkit/x_error_trap.h"
 
 namespace kite::images {
@@ -20,7 +21,6 @@ PixmapSink::PixmapSink(Screen* screen, Pixel undrawn, DirectPixels::Background t
 
 PixmapSink::~PixmapSink()
 {
-    if (context_) XFreeGC(display_, context_);
     if (picture_) freePixmap(screen_, picture_.pixmap);
 }
 
@@ -29,7 +29,6 @@ bool PixmapSink::begin(const bmp::Header& header, const std::vector<Rgb>& palett
     picture_.width = header.width;
     picture_.height = header.height;
     if (!createPixmap()) return false;
-    createContext();
     undrawnRows_ = header.height;
     if (header.isIndexed()) {
         loadingPalette().reset(colormap());
@@ -41,7 +40,8 @@ bool PixmapSink::begin(const bmp::Header& header, const std::vector<Rgb>& palett
         direct_.useComputed(computedColours(display_, colormap()));
     }
     row_.resize(static_cast<std::size_t>(header.width));
-    upload_.emplace(screen_, picture_.pixmap, context_, header.width, header.height);
+    upload_.emplace(screen_, picture_.pixmap, screenPen(screen_, undrawn_), header.width,
+                    header.height);
     return true;
 }
 
@@ -63,20 +63,11 @@ bool PixmapSink::createPixmap()
     return true;
 }
 
-// One of our own: the screen's is everybody's, and a host may have changed it.
-void PixmapSink::createContext()
-{
-    XGCValues values{};
-    values.foreground = undrawn_;
-    values.background = undrawn_;
-    context_ = XCreateGC(display_, picture_.pixmap, GCForeground | GCBackground, &values);
-}
-
 // Rows that do not come, from the given one down to the latest one that did.
 void PixmapSink::fillFrom(int y)
 {
     if (y < undrawnRows_)
-        XFillRectangle(display_, picture_.pixmap, context_, 0, y,
+        XFillRectangle(display_, picture_.pixmap, screenPen(screen_, undrawn_), 0, y,
                        static_cast<unsigned>(picture_.width),
                        static_cast<unsigned>(undrawnRows_ - y));
     undrawnRows_ = y;

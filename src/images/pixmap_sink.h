@@ -33,7 +33,6 @@ public:
 
 private:
     bool createPixmap();
-    void createContext();
     void fillFrom(int y);
     void send(int y);
     Colormap colormap() const { return DefaultColormapOfScreen(screen_); }
@@ -46,7 +45,6 @@ private:
     IndexedPixels indexed_;
     DirectPixels direct_;
     Picture picture_;
-    GC context_ = nullptr;
     std::vector<std::uint32_t> row_;
     int undrawnRows_ = 0;  // at the top: those below have come or are filled
     std::optional<PictureUpload> upload_;
