@@ -5,6 +5,7 @@
 #include <Xm/Text.h>
 
 #include "events_support.h"
+#include "host_application.h"
 #include "ignored_leaks.h"
 
 using namespace kite::testing;
@@ -18,31 +19,25 @@ class OwnApplication {
 public:
     OwnApplication()
     {
-        char program[] = "own";
-        char* arguments[] = {program, nullptr};
-        int count = 1;
-        shell_ = XtVaOpenApplication(&context_, "Own", nullptr, 0, &count, arguments, nullptr,
-                                     applicationShellWidgetClass, nullptr);
-        XtVaCreateManagedWidget("field", xmTextWidgetClass, shell_, XmNwidth, 300, XmNheight, 200,
+        XtVaCreateManagedWidget("field", xmTextWidgetClass, shell(), XmNwidth, 300, XmNheight, 200,
                                 nullptr);
-        XtRealizeWidget(shell_);
-        toolkit::attach(shell_);
+        XtRealizeWidget(shell());
+        toolkit::attach(shell());
         Script::instance().arm();
-        wm::waitUntilSettled(shell_);
+        wm::waitUntilSettled(shell());
     }
     ~OwnApplication()
     {
-        XtDestroyWidget(shell_);
-        XtDestroyApplicationContext(context_);
+        XtDestroyWidget(shell());
+        XtDestroyApplicationContext(opened_.context);
     }
     OwnApplication(const OwnApplication&) = delete;
     OwnApplication& operator=(const OwnApplication&) = delete;
 
-    Widget shell() const { return shell_; }
+    Widget shell() const { return opened_.shell; }
 
 private:
-    XtAppContext context_ = nullptr;
-    Widget shell_ = nullptr;
+    HostApplication opened_ = openHostApplication();
 };
 
 }  // namespace
@@ -203,12 +198,7 @@ GUI_STARTUP_TEST(Owner, ThatIsGoneWithItsDisplayIsNone)
 GUI_STARTUP_TEST(Owner, WhoseDisplayIsClosedIsNone)
 {
     const IgnoredLeaks widgetsOfAClosedDisplay;
-    XtAppContext context = nullptr;
-    char program[] = "own";
-    char* arguments[] = {program, nullptr};
-    int count = 1;
-    Widget const shell = XtVaOpenApplication(&context, "Own", nullptr, 0, &count, arguments,
-                                             nullptr, applicationShellWidgetClass, nullptr);
+    const auto [context, shell] = openHostApplication();
     XtVaSetValues(shell, XmNwidth, 100, XmNheight, 100, nullptr);
     XtRealizeWidget(shell);
     guiSetOwner(shell);

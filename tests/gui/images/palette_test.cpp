@@ -3,6 +3,7 @@
 #include <Xm/Xm.h>
 
 #include "gui_test.h"
+#include "host_application.h"
 #include "images/display_colours.h"
 #include "loaded.h"
 #include "round_trips.h"
@@ -85,12 +86,7 @@ GUI_TEST(Palette, AllocatesInAColormapOfTheHost)
 
 GUI_STARTUP_TEST(Palette, WorksOnTheDisplayOfAnOwner)
 {
-    XtAppContext context = nullptr;
-    char program[] = "own";
-    char* arguments[] = {program, nullptr};
-    int count = 1;
-    Widget const shell = XtVaOpenApplication(&context, "Own", nullptr, 0, &count, arguments,
-                                             nullptr, applicationShellWidgetClass, nullptr);
+    const auto [context, shell] = openHostApplication();
     ImagePalette palette;
     palette.reset(DefaultColormapOfScreen(XtScreen(shell)));
     palette.set(1, 255, 255, 255);

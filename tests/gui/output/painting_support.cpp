@@ -2,6 +2,8 @@
 
 #include <thread>
 
+#include "artefacts.h"
+
 namespace kite::testing {
 
 namespace {
@@ -35,10 +37,12 @@ void expectPainted(const std::string& after)
     XSync(toolkit::display(), False);
     const Shot shown;
     const screen::Picture wanted = fresh();
-    EXPECT_EQ(shown.picture(), wanted) << after;
     if (shown.picture() == wanted) return;
-    shown.picture().savePng("/tmp/wt-output-shown.png");
-    wanted.savePng("/tmp/wt-output-wanted.png");
+    const auto shownPath = artefacts::pathOf("shown.png");
+    const auto wantedPath = artefacts::pathOf("wanted.png");
+    shown.picture().savePng(shownPath);
+    wanted.savePng(wantedPath);
+    ADD_FAILURE() << after << ": not painted; see " << shownPath << " and " << wantedPath;
 }
 
 }  // namespace kite::testing

@@ -2,7 +2,6 @@
 
 #include <X11/Xatom.h>
 
-#include <chrono>
 #include <climits>
 
 #include "connection.h"
@@ -152,16 +151,35 @@ GUI_TEST(SelOutputLine, IsTheSelectionForOtherClientsToo)
 
 namespace {
 
-// Whatever is selected there, and when: a window of another program.
+// A window of another program.
+Window otherWindow()
+{
+    static const Window window = [] {
+        const Window created =
+            XCreateSimpleWindow(connection(), DefaultRootWindow(connection()), 0, 0, 1, 1, 0, 0, 0);
+        XSelectInput(connection(), created, PropertyChangeMask);
+        return created;
+    }();
+    return window;
+}
+
+Time serverTime()
+{
+    XChangeProperty(connection(), otherWindow(), XA_WM_NAME, XA_STRING, 8, PropModeAppend, nullptr,
+                    0);
+    XEvent event;
+    XWindowEvent(connection(), otherWindow(), PropertyChangeMask, &event);
+    return event.xproperty.time;
+}
+
+// To Xt two selections of one millisecond are one.
 void selectElsewhere()
 {
-    static const Window window =
-        XCreateSimpleWindow(connection(), DefaultRootWindow(connection()), 0, 0, 1, 1, 0, 0, 0);
-    // To Xt two selections of one millisecond are one.
-    const auto start = std::chrono::steady_clock::now();
-    waitUntil([=] { return std::chrono::steady_clock::now() - start > milliseconds{3}; });
-    XSetSelectionOwner(connection(), XA_PRIMARY, window, CurrentTime);
-    XSync(connection(), False);
+    const Time before = serverTime();
+    ASSERT_TRUE(waitUntil([=] { return serverTime() > before; }));
+    XSetSelectionOwner(connection(), XA_PRIMARY, otherWindow(), CurrentTime);
+    const Time selected = serverTime();
+    ASSERT_TRUE(waitUntil([=] { return serverTime() > selected; }));
 }
 
 }  // namespace
