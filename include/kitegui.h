@@ -523,6 +523,318 @@ KITEGUI_API int guiSelOutputLine(int line, int startCol, int count);
 KITEGUI_API int guiSaveOutput(const char *path);
 
 /* ---------------------------------------------------------------------------------------------
+ * Dialogs
+ *
+ * A handler opens a dialog with guiDialog, places controls on it, one call each, and runs it:
+ *
+ *     guiDialog("Name");
+ *     guiLabel(GUI_ANONYMOUS, 0, 0, 30, "&Name:");
+ *     guiEdit(1, 0, 32, 80, 0, 0);
+ *     guiButton(2, 2, 32, 36, "OK", 1);
+ *     guiButton(GUI_CANCEL_BUTTON, 2, 76, 36, "Cancel", 0);
+ *     if (guiRunDialog(handleName) == 1) ...
+ *
+ * While it runs, its handler gets its events and reads and changes its controls by their ids; guiClose
+ * ends it. The first event is GUI_EVENT_INIT, before the dialog is seen: there the handler fills it.
+ * Dialogs nest: a handler may build and run another one, and guiRunDialog returns when that is closed.
+ * All of them block the windows behind them.
+ *
+ * Places and sizes are in dialog units, which grow with the dialog's font (that of the status line): a
+ * horizontal unit is a quarter of the average width of a letter, a vertical one an eighth of the height of
+ * a line. There is a margin of 7 units on all sides; the dialog is as large as its controls need. Rows are
+ * 14 units apart, counted from 0; each kind of control stands in the middle of its row. After
+ * guiUseAbsPos(1) the row of every call is the top of the control in vertical units instead.
+ *
+ * Ids are 1 to 32767, each once in a dialog. Push buttons may also have id 0, which makes them the cancel
+ * button; labels and lines (and progress bars, sliders and spin boxes) may have id -1, any number of them:
+ * no operation can reach them then.
+ * ------------------------------------------------------------------------------------------ */
+
+/* Ids of controls with a meaning of their own. */
+enum {
+    GUI_ANONYMOUS = -1,          /* a label or line that no operation needs */
+    GUI_CANCEL_BUTTON = 0        /* Escape presses it */
+};
+
+/*
+ * Begins a dialog: the top window at this moment becomes the window that it belongs to. Null is an empty
+ * title.
+ *
+ * Returns 0; -1 after "Dialog: the system must be started first" (before guiStart or the first event, or
+ * after guiRestart), "Dialog: handlers must return after StartDialog", "Dialog: you must start the previous
+ * dialog first", and, when the toolkit fails, "Dialog: cannot create dialog shell", "Dialog: cannot create
+ * bulletin board widget", "Dialog: cannot allocate dialog font", "Dialog: cannot retrieve dialog font".
+ * guiClose throws a dialog away that has not been run.
+ */
+KITEGUI_API int guiDialog(const char *title);
+
+/*
+ * Runs the dialog as soon as the handler that is running now has returned. It has no handler of its own:
+ * its events go to the host callback. Returns 0; -1 after "StartDialog: no prepared dialog".
+ */
+KITEGUI_API int guiStartDialog(void);
+
+/*
+ * Runs the dialog and waits until it is closed.
+ *
+ *   handler  gets the events of the dialog; null to use the host callback
+ *
+ * The first sensitive control that the keyboard can work on has the focus, or the one that the handler has
+ * named with guiSetFocus during GUI_EVENT_INIT. No event is delivered while the dialog is being shown. A
+ * dialog that its handler closes during GUI_EVENT_INIT is never shown. When it ends, the periodic timer
+ * is stopped.
+ *
+ * Returns the code given to guiClose, 0 or more (0 also when the dialog's widgets were destroyed by other
+ * means); -1 after "RunDialog: no prepared dialog".
+ */
+KITEGUI_API int guiRunDialog(GuiHandler handler);
+
+/*
+ * Sets the title of the dialog that runs. Null is an empty title. While only the main frame is open it
+ * shows "SetDialogTitle: no dialog".
+ */
+KITEGUI_API void guiSetDialogTitle(const char *title);
+
+/*
+ * Returns the id of the control that has the keyboard in the dialog that runs; -1 without a dialog, and
+ * when it cannot be told: for a button of id 0 and for lists and trees. (For a multi-line text in which
+ * something was changed the result is of no use.)
+ */
+KITEGUI_API int guiGetFocus(void);
+
+/*
+ * Non-zero: the row of the controls that follow is the top of the control in vertical units. 0: it is a
+ * row again. Each guiDialog begins with rows.
+ */
+KITEGUI_API void guiUseAbsPos(int on);
+
+/* Labels, check boxes and radio buttons that follow get a border of one pixel, up to the next guiDialog. */
+KITEGUI_API void guiShowAllBorders(void);
+
+/* Does nothing; hosts may call it. */
+KITEGUI_API void guiContextHelp(void);
+
+/* The step from row to row and the heights of controls, in vertical dialog units. */
+KITEGUI_API int guiGetDefRowStep(void);     /* 14 */
+KITEGUI_API int guiGetMaxCtrlHeight(void);  /* 12 */
+KITEGUI_API int guiGetLabelHeight(void);    /* 8 */
+KITEGUI_API int guiGetEditHeight(void);     /* 12 */
+KITEGUI_API int guiGetButtonHeight(void);   /* 12 */
+KITEGUI_API int guiGetCheckHeight(void);    /* 10 */
+KITEGUI_API int guiGetRadioHeight(void);    /* 10 */
+KITEGUI_API int guiGetChoiceHeight(void);   /* 12 */
+
+/* ---------------------------------------------------------------------------------------------
+ * Simple controls
+ *
+ * What all constructors of controls have in common:
+ *
+ *   id     see above
+ *   row    the row, from 0; after guiUseAbsPos(1) the top in vertical units
+ *   x      the left edge in horizontal units, from 0 at the margin
+ *   width  in horizontal units
+ *   text   the label: at most 255 bytes are kept, every "&" is removed, lines are divided by "\n". Null is
+ *          an empty text.
+ *
+ * They show one of these and make nothing, with the name of the control for %s: "%s: no dialog is built at
+ * the moment", "%s: too many dialog items" (32768 are possible), "%s: invalid control id %d", "%s: duplicate
+ * control id %d", checked in this order; and "%s: cannot create control %d" when the toolkit fails. They
+ * return 0 then -1; hosts need not look at it.
+ *
+ * Every control that takes the keyboard is a stop of the Tab key, in the order of creation. All controls
+ * but lines and anonymous labels report GUI_EVENT_HOVER; those that take the keyboard, and images, also
+ * GUI_EVENT_HELP and GUI_EVENT_KEY.
+ * ------------------------------------------------------------------------------------------ */
+
+/* A text. 8 units high. */
+KITEGUI_API int guiLabel(int id, int row, int x, int width, const char *text);
+
+/*
+ * One line of text to type in. 12 units high.
+ *
+ *   hidden    non-zero: what is typed cannot be read (passwords)
+ *   readOnly  non-zero: the text can be selected, but not changed
+ *
+ * Raises GUI_EVENT_TEXT_CHANGED with 1 when there is text, else 0, and GUI_EVENT_LEFT.
+ */
+KITEGUI_API int guiEdit(int id, int row, int x, int width, int hidden, int readOnly);
+
+/*
+ * A push button. 12 units high. Raises GUI_EVENT_COMMAND with its id.
+ *
+ *   width      0: the button is not seen; Return (if it is the default button) and Escape (if its id is 0)
+ *              still press it
+ *   isDefault  non-zero: Return presses it. The last one that is marked counts.
+ */
+KITEGUI_API int guiButton(int id, int row, int x, int width, const char *text, int isDefault);
+
+/* A check box, not set at first. 10 units high. Raises GUI_EVENT_CHECK with its new state. */
+KITEGUI_API int guiCheck(int id, int row, int x, int width, const char *text);
+
+/*
+ * A radio button. 10 units high. Those that are made one after the other are a group: the first is set at
+ * first, and when the user sets another, that one is cleared. Raises GUI_EVENT_RADIO when it is set by
+ * the user; one that is set already stays so and raises nothing.
+ */
+KITEGUI_API int guiRadio(int id, int row, int x, int width, const char *text);
+
+/*
+ * A line across (rows below 2), a line down (width 1), or else a rectangle, drawn around whatever stands
+ * in it. After guiUseAbsPos(1) `rows` is the height in vertical units, and 1 is a line. A line of no length,
+ * or a point, is not made.
+ */
+KITEGUI_API int guiLine(int id, int row, int rows, int x, int width);
+
+/*
+ * A place for a picture (guiSetImage), rows * 14 - 2 units high. A click gives it the keyboard.
+ *
+ *   framed  non-zero: with a shadow of two pixels
+ */
+KITEGUI_API int guiImage(int id, int row, int rows, int x, int width, int framed);
+
+/* ---------------------------------------------------------------------------------------------
+ * Operations on the controls of the dialog that runs
+ *
+ * Each takes the id of a control and shows one of these and does nothing else when it cannot be done, with
+ * its own name (without "gui") for %s: "%s: no dialog" (only the main frame is open), "%s: wrong id %d"
+ * (below 0), "%s: no control with id %d in the dialog", "%s: unsuitable control type (id = %d)". It returns
+ * -1 then, or 0 or 0.0 where it returns a number of the control. While a box is open the box is the top
+ * window, and has no controls.
+ *
+ * What these operations change raises no event. There is one flag for that, which is no counter: an
+ * operation called while it is up lowers it when it ends.
+ * ------------------------------------------------------------------------------------------ */
+
+/* Returns 1 when the control is enabled, 0 when not, -1 quietly when there is no such control. */
+KITEGUI_API int guiIdStatus(int id);
+
+/* Enables (non-zero) or disables (0) a control. Not for lines and images. */
+KITEGUI_API void guiEnable(int id, int enable);
+
+/*
+ * Gives the keyboard to a control; during GUI_EVENT_INIT: when the dialog is shown. Not for labels, lines,
+ * images and progress bars.
+ */
+KITEGUI_API void guiSetFocus(int id);
+
+/* Shows (non-zero) or hides (0) a control, of any type. Its place stays free. */
+KITEGUI_API void guiSetVisible(int id, int visible);
+
+/*
+ * Gives a control its text, which is seen at once. Null is an empty text.
+ *
+ *   label, check box, radio button, push button  as their constructors do; a push button that showed an
+ *                     image shows its text again
+ *   edit, multi-line text  the whole text
+ *   combo box         the text of its field; an item of that text is selected
+ *   spin box          its value, the number at the beginning of the text
+ *
+ * Not for others.
+ */
+KITEGUI_API void guiSetText(int id, const char *text);
+
+/* The same with a number: as printf's "%g" and "%d" write it. Misuse is shown as "SetText: ...". */
+KITEGUI_API void guiSetTextDbl(int id, double value);
+KITEGUI_API void guiSetTextInt(int id, int value);
+
+/*
+ * Copies the text of a control into the buffer and returns the length of what stands there.
+ *
+ *   label, check box, radio button, push button, edit  its text
+ *   choice, combo box   the selected item, or what is typed
+ *   list                the item at the keyboard cursor; -1 when there is none
+ *   multi-line text     the selected part, 0 when there is none
+ *   tree                the label of the first selected item, 0 when there is none
+ *   spin box            what stands in its field
+ *
+ * -1 also after "GetText: invalid buffer" for a null buffer or a size below 2, which is tested first, and
+ * for other controls.
+ */
+KITEGUI_API int guiGetText(int id, char *buffer, int size);
+
+/* The first 255 bytes of that text as a number, as far as it is one; 0 when there is none. */
+KITEGUI_API double guiGetTextDbl(int id);
+KITEGUI_API int guiGetTextInt(int id);
+
+/* The length of that text in bytes, however long. Not for trees. */
+KITEGUI_API int guiGetTextLen(int id);
+
+/*
+ * For a multi-line text: puts a text in the place of the selected one and selects it; when nothing is
+ * selected, at the insertion point. The insertion point is behind it afterwards. Null is an empty text.
+ */
+KITEGUI_API void guiInsertText(int id, const char *text);
+
+/* Returns 1 when a check box or radio button is set, else 0. */
+KITEGUI_API int guiGetCheck(int id);
+
+/* Sets (non-zero) or clears (0) a check box or radio button, and no other button of its group. */
+KITEGUI_API void guiSetCheck(int id, int state);
+
+/*
+ * Sets the limits of a control's value.
+ *
+ *   edit, multi-line text  at most `max` characters can be typed, when max is above 0
+ *   progress bar, slider   the values are min - 1 to max - 1
+ *   spin box               the values are min to max
+ *
+ * A value outside the new limits becomes the nearest one inside. Limits that the toolkit refuses (min not
+ * below max) change nothing.
+ */
+KITEGUI_API void guiSetRange(int id, int min, int max);
+
+/*
+ * Shows a picture (see guiToolbarButton for the files that can be read) in an image control or on a push
+ * button. Parts of it that are not drawn have the control's background.
+ *
+ *   image control  the upper left part that fits
+ *   push button    the whole picture instead of the text
+ *
+ * Null or "" clears the picture. Returns 0; -1, with the picture cleared, after "guisetimage: cannot load
+ * image %s" and when the server has no memory for it.
+ */
+KITEGUI_API int guiSetImage(int id, const char *fileName);
+
+/*
+ * Returns the first visible line of a multi-line text, or item of a list, from 0; -1 for a tree, which has
+ * none.
+ */
+KITEGUI_API int guiGetTop(int id);
+
+/*
+ * Scrolls a list or a multi-line text.
+ *
+ *   line  from 0. For a list: -1 is the last item; an item that it does not have changes nothing. For a
+ *         text: lines below 0 or above the number of lines of the Output area change nothing; behind the last
+ *         line it is the end of the text. The insertion point goes there too.
+ *
+ * "GetLineCount: out of memory" when the text cannot be had.
+ */
+KITEGUI_API void guiSetTop(int id, int line);
+
+/*
+ * Reads and sets the position of a control.
+ *
+ *                    guiSetPos(pos)                         guiGetPos
+ *   edit             insertion point behind pos characters  -
+ *   choice           -                                      selected position, as the toolkit keeps it
+ *   list             item pos on top                        item on top
+ *   multi-line text  nothing is selected any more, and the  first visible line, from 1; 0 for an
+ *                    insertion point is at the beginning    empty text
+ *                    of line pos (as in guiSetTop)
+ *   progress bar     value pos + 1                          value
+ *   slider           value pos                              value
+ *   spin box         value pos + 1                          value - 1
+ *   tree             -                                      index of the first selected item from 1, 0
+ *                                                           for none
+ *
+ * After guiGetPos no event is delivered until an operation that changes a control has run; likewise after
+ * guiSetPos for a line that the text does not have.
+ */
+KITEGUI_API int guiGetPos(int id);
+KITEGUI_API void guiSetPos(int id, int pos);
+
+/* ---------------------------------------------------------------------------------------------
  * Standard boxes
  *
  * All but the tip are modal for the whole application: the call returns when the user has answered.

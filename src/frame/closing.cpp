@@ -1,7 +1,11 @@
 // closing.cpp: closes the top window, whatever it is.
 
+#include "frame/closing.h"
+
 #include <Xm/Xm.h>
 #include <kitegui.h>
+
+#include <algorithm>
 
 #include "boxes/misuse.h"
 #include "frame/decoration.h"
@@ -18,6 +22,8 @@
 namespace kite::frame {
 
 namespace {
+
+DialogActions dialogs{nullptr, nullptr};  // set by the first dialog
 
 // The settings are the host's: it may close the frame when it is asked for one.
 void saveGeometry(Widget shell)
@@ -38,9 +44,10 @@ void closeDialog(Widget dialog)
     setTopWindow(parent && parent != widgets().shell ? parent : mainWindow());
 }
 
-void closeTopWindow()
+void closeTopWindow(int code)
 {
     Widget const top = topWindow();
+    if (dialogs.noteCode) dialogs.noteCode(top, code);
     if (mainWindow() && shellOf(top) == widgets().shell)
         close();
     else
@@ -48,6 +55,11 @@ void closeTopWindow()
 }
 
 }  // namespace
+
+void setDialogActions(const DialogActions& actions)
+{
+    dialogs = actions;
+}
 
 void close()
 {
@@ -67,8 +79,10 @@ void close()
 int guiClose(int code)
 {
     if (!kite::topWindow()) return 0;
+    const auto abandonDialog = kite::frame::dialogs.abandon;
+    if (abandonDialog && abandonDialog()) return 0;
     if (code < 0) kite::reportMisuse("Close: negative return code - 0 is used");
     const kite::EventsSuppressed quiet;
-    if (kite::topWindow()) kite::frame::closeTopWindow();
+    if (kite::topWindow()) kite::frame::closeTopWindow(std::max(code, 0));
     return 0;
 }

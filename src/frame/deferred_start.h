@@ -19,7 +19,13 @@ public:
     HandlerRunning& operator=(const HandlerRunning&) = delete;
 };
 
-// Starts what is waiting for nothing any more, and gives its result; nothing when there is none.
+// The dialog under construction is to be run, by this function.
+void startDialog(int (*run)());
+bool isDialogRequested();
+void withdrawDialog();
+
+// Starts what is waiting for nothing any more, a dialog before a plug-in, and gives its result; nothing when
+// there is none.
 std::optional<int> runOne();
 
 }  // namespace kite::deferred

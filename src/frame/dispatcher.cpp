@@ -25,10 +25,10 @@ struct Event {
 struct {
     GuiHandler hostCallback = nullptr;                 // set once by guiInit
     dispatcher::FrameActions frame{nullptr, nullptr};  // set by guiInit
-    bool started = false;         // set by guiStart and the first event, cleared by guiRestart
-    bool showing = false;         // raised and lowered by showUntilStarted
-    bool building = false;        // raised by noteBuilding, lowered by setStarted and raiseFirst
-    bool suppressed = false;      // raised and lowered by EventsSuppressed
+    bool started = false;     // set by guiStart and the first event, cleared by guiRestart
+    bool showing = false;     // raised and lowered by showUntilStarted
+    bool building = false;    // raised by noteBuilding, lowered by setStarted and raiseFirst
+    bool suppressed = false;  // raised and lowered by EventsSuppressed, raised by suppressEvents
     bool inHostCallback = false;  // raised and lowered by callHost
 } state;
 
@@ -144,6 +144,11 @@ void raiseFirst()
 void noteBuilding()
 {
     state.building = true;
+}
+
+void suppressEvents()
+{
+    state.suppressed = true;
 }
 
 }  // namespace dispatcher

@@ -36,6 +36,9 @@ void raiseFirst();
 // The host builds commands.
 void noteBuilding();
 
+// No event is delivered any more, until a scope below has been left.
+void suppressEvents();
+
 }  // namespace dispatcher
 
 // No event is delivered in its scope: for changes of the library's own, which are not the user's.

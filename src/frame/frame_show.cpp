@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "frame/dispatcher.h"
+#include "frame/focus_leave.h"
 #include "frame/frame_widgets.h"
 #include "frame/main_frame.h"
 #include "toolkit/argument_list.h"
@@ -97,6 +98,7 @@ void show()
     dispatcher::raiseFirst();
     if (!widgets().mainWindow) return;  // the host has closed the frame already
 
+    focusLeave::forget();
     const bool hasToolbar = hasToolbarButtons(widgets());
     if (!hasToolbar && widgets().toolbar) dropToolbar();
     const Widgets& frame = widgets();

@@ -1,9 +1,12 @@
 #include "frame/hover.h"
 
 #include <Xm/Label.h>
+#include <kitegui.h>
 
+#include <optional>
 #include <string>
 
+#include "frame/dispatcher.h"
 #include "frame/top_window.h"
 #include "toolkit/colours.h"
 #include "toolkit/compound_string.h"
@@ -20,7 +23,8 @@ constexpr Colour kTipBackground{0xFFFF, 0xFFFF, 0xFFAA};
 struct State {
     int delay = -1;          // set by setDelay
     XtIntervalId timer = 0;  // the one pending time-out, 0 when there is none
-    std::string text;        // what it will show
+    std::optional<int> id;   // of the control that it will report
+    std::string text;        // else the tip that it will show
     WidgetRef tip;           // what it has shown, until the pointer leaves
 };
 State& state = neverDestroyed<State>();
@@ -58,8 +62,17 @@ void showTip(Widget window)
 void timedOut(XtPointer, XtIntervalId*)
 {
     state.timer = 0;
+    if (state.id) return raise(GUI_EVENT_HOVER, *state.id);
     Widget const window = topWindow();
     if (window && XtIsComposite(window) && XtIsRealized(window)) showTip(window);
+}
+
+void startTimer()
+{
+    XtAppContext const application = servedApplication();
+    if (state.delay < 0 || !application) return;
+    state.timer =
+        XtAppAddTimeOut(application, static_cast<unsigned long>(state.delay), timedOut, nullptr);
 }
 
 }  // namespace
@@ -71,12 +84,17 @@ void setDelay(int milliseconds)
 
 void enterWithTip(const char* tip)
 {
-    XtAppContext const application = servedApplication();
-    if (state.delay < 0 || !application) return;
     leave();
+    state.id.reset();
     state.text = tip;
-    state.timer =
-        XtAppAddTimeOut(application, static_cast<unsigned long>(state.delay), timedOut, nullptr);
+    startTimer();
+}
+
+void enterControl(int id)
+{
+    leave();
+    state.id = id;
+    startTimer();
 }
 
 void leave()

@@ -8,10 +8,18 @@ namespace kite {
 namespace {
 
 constexpr char kMark = '&';
+constexpr std::size_t kLongestControlLabel = 255;
 
 bool isBetween(char first, char c, char last)
 {
     return c >= first && c <= last;
+}
+
+std::string withoutMarks(std::string text)
+{
+    stripChar(text.data(), kMark);
+    text.resize(std::strlen(text.c_str()));
+    return text;
 }
 
 // Of a second mark nothing comes but its removal: "Save && Exit" has no mnemonic.
@@ -35,10 +43,12 @@ bool isLetterOrDigit(char c)
 
 LabelText parseLabel(const char* name)
 {
-    LabelText text{name, mnemonicOf(name)};
-    stripChar(text.label.data(), kMark);
-    text.label.resize(std::strlen(text.label.c_str()));
-    return text;
+    return {withoutMarks(name), mnemonicOf(name)};
+}
+
+std::string controlLabel(const char* text)
+{
+    return text ? withoutMarks({text, strnlen(text, kLongestControlLabel)}) : std::string{};
 }
 
 }  // namespace kite

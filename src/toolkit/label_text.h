@@ -1,4 +1,5 @@
-// label_text.h: the names of menu items: "&File" is the label "File" with the mnemonic F.
+// label_text.h: the names of menu items and controls: "&File" is the label "File", in menus with the
+// mnemonic F.
 
 #pragma once
 
@@ -18,5 +19,9 @@ struct LabelText {
 };
 
 LabelText parseLabel(const char* name);
+
+// The label of a control: the first 255 bytes of the text, and of these what is left without any "&".
+// Empty for null.
+std::string controlLabel(const char* text);
 
 }  // namespace kite

@@ -27,7 +27,12 @@ public:
 
     OwnedPixmap(const OwnedPixmap&) = delete;
     OwnedPixmap& operator=(const OwnedPixmap&) = delete;
-    OwnedPixmap& operator=(OwnedPixmap&&) = delete;
+    OwnedPixmap& operator=(OwnedPixmap&& other) noexcept
+    {
+        std::swap(screen_, other.screen_);
+        std::swap(pixmap_, other.pixmap_);
+        return *this;
+    }
 
     Pixmap get() const { return pixmap_; }
     Pixmap release() { return std::exchange(pixmap_, None); }

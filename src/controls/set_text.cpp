@@ -1,0 +1,110 @@
+// set_text.cpp: gives a control its text.
+
+#include <Xm/ComboBox.h>
+#include <Xm/Label.h>
+#include <Xm/SSpinB.h>
+#include <Xm/Text.h>
+#include <Xm/TextF.h>
+#include <kitegui.h>
+
+#include <cstdio>
+#include <cstdlib>
+
+#include "controls/control_lookup.h"
+#include "controls/value_range.h"
+#include "frame/dispatcher.h"
+#include "toolkit/compound_string.h"
+#include "toolkit/label_text.h"
+#include "toolkit/paint_now.h"
+#include "toolkit/resources.h"
+
+namespace kite {
+
+namespace {
+
+using enum ControlType;
+
+void setLabel(Widget label, const char* text)
+{
+    const CompoundString string{controlLabel(text).c_str()};
+    XtVaSetValues(label, XmNlabelString, string.get(), nullptr);
+}
+
+// A button that showed an image shows its text again.
+void setButtonLabel(Widget button, const char* text)
+{
+    const CompoundString string{controlLabel(text).c_str()};
+    XtVaSetValues(button, XmNlabelType, XmSTRING, XmNlabelString, string.get(), nullptr);
+}
+
+// Emptied first: what is undone or compared in the text begins anew.
+void setEditedText(Widget edited, const char* text)
+{
+    XtVaSetValues(edited, XmNvalue, nullptr, nullptr);
+    XtVaSetValues(edited, XmNvalue, text, nullptr);
+}
+
+void clearField(Widget composed)
+{
+    if (Widget const field = resource<Widget>(composed, XmNtextField))
+        XtVaSetValues(field, XmNvalue, nullptr, nullptr);
+}
+
+void setComboText(Widget combo, const char* text)
+{
+    clearField(combo);
+    const CompoundString item{text};
+    XtVaSetValues(combo, XmNselectedItem, item.get(), nullptr);
+}
+
+// The number itself, other than guiSetPos, which counts from the one before: hosts use both.
+void setSpinText(Widget spin, const char* text)
+{
+    clearField(spin);
+    setSpinPosition(spin, std::strtol(text, nullptr, 10));
+}
+
+struct Setter {
+    ControlType type;
+    void (*set)(Widget control, const char* text);
+};
+
+constexpr Setter kSetters[] = {
+    {Label, setLabel},     {Check, setLabel},     {Radio, setLabel},     {Button, setButtonLabel},
+    {Edit, setEditedText}, {Text, setEditedText}, {Combo, setComboText}, {Spin, setSpinText}};
+
+constexpr TypeSet kWithText{Label, Edit, Button, Check, Radio, Text, Combo, Spin};
+
+void setText(const Control& control, const char* text)
+{
+    const EventsSuppressed quiet;
+    for (const Setter& setter : kSetters)
+        if (setter.type == control.type) setter.set(control.widget, text);
+    paintNow(control.widget);
+}
+
+}  // namespace
+
+}  // namespace kite
+
+using namespace kite;
+
+void guiSetText(int id, const char* text)
+{
+    if (const Control control = findControl("SetText", id, kWithText))
+        setText(control, text ? text : "");
+}
+
+void guiSetTextDbl(int id, double value)
+{
+    char text[64];
+    std::snprintf(text, sizeof text, "%g", value);
+    guiSetText(id, text);
+}
+
+void guiSetTextInt(int id, int value)
+{
+    char text[32];
+    std::snprintf(text, sizeof text, "%d", value);
+    guiSetText(id, text);
+}

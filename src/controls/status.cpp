@@ -1,0 +1,60 @@
+// status.cpp: whether controls can be operated and seen, and which of them has the keyboard.
+
+#include <Xm/Xm.h>
+#include <kitegui.h>
+
+#include "controls/control_lookup.h"
+#include "dialogs/dialog_run.h"
+#include "frame/dispatcher.h"
+
+namespace kite {
+
+namespace {
+
+using enum ControlType;
+
+constexpr TypeSet kEnabled{Label, Edit,  Button,   Check, Radio,  Choice, List,
+                           Text,  Combo, Progress, Tree,  Slider, Spin};
+
+constexpr TypeSet kFocusable{Edit, Button, Check, Radio,  Choice, List,
+                             Text, Combo,  Tree,  Slider, Spin};
+
+}  // namespace
+
+}  // namespace kite
+
+using namespace kite;
+
+int guiIdStatus(int id)
+{
+    const Control control = findControl("IdStatus", id);
+    if (!control) return GUI_FAILED;
+    return XtIsSensitive(control.widget) ? 1 : 0;
+}
+
+// Scroll bars stay as they are: what cannot be operated can still be read.
+void guiEnable(int id, int enable)
+{
+    const Control control = findControl("Enable", id, kEnabled);
+    if (!control) return;
+    const EventsSuppressed quiet;
+    XtSetSensitive(control.widget, enable != 0);
+}
+
+void guiSetFocus(int id)
+{
+    const Control control = findControl("SetFocus", id, kFocusable);
+    if (!control) return;
+    const EventsSuppressed quiet;
+    dialogRun::requestFocus(control.widget);
+    XmProcessTraversal(control.widget, XmTRAVERSE_CURRENT);
+}
+
+void guiSetVisible(int id, int visible)
+{
+    const Control control = findControl("SetVisible", id);
+    if (!control) return;
+    const EventsSuppressed quiet;
+    XtSetMappedWhenManaged(control.widget, visible != 0);
+    if (control.outer != control.widget) XtSetMappedWhenManaged(control.outer, visible != 0);
+}

@@ -1,0 +1,58 @@
+// top.cpp: the first line or item that a control shows, counted from 0.
+
+#include <Xm/List.h>
+#include <Xm/Text.h>
+#include <kitegui.h>
+
+#include <algorithm>
+#include <climits>
+
+#include "controls/control_lookup.h"
+#include "controls/list_top.h"
+#include "controls/text_lines.h"
+
+namespace kite {
+
+namespace {
+
+using enum ControlType;
+
+constexpr TypeSet kScrolled{List, Text, Tree};
+constexpr TypeSet kScrollable{List, Text};
+
+void showFromLine(Widget text, int line)
+{
+    const auto start = startOfLine(text, line);
+    if (!start) return;
+    XmTextSetTopCharacter(text, *start);
+    XmTextSetInsertionPosition(text, *start);
+    XmTextShowPosition(text, *start);
+}
+
+}  // namespace
+
+}  // namespace kite
+
+using namespace kite;
+
+// A tree has no first visible item of its own: -1.
+int guiGetTop(int id)
+{
+    const Control control = findControl("GetTop", id, kScrolled);
+    switch (control ? control.type : Tree) {
+    case List: return topItemOf(control.widget);
+    case Text: return topLineOf(control.widget).value_or(GUI_FAILED);
+    default: return GUI_FAILED;
+    }
+}
+
+// Moving the view is not a change of the library's own that the host must not hear of: events pass.
+void guiSetTop(int id, int line)
+{
+    const Control control = findControl("SetTop", id, kScrollable);
+    if (!control) return;
+    if (control.type == List)
+        setTopItem(control.widget, line);
+    else
+        showFromLine(control.widget, line);
+}

@@ -1,0 +1,65 @@
+#include "controls/value_range.h"
+
+#include <Xm/SSpinB.h>
+#include <Xm/Scale.h>
+
+#include <algorithm>
+
+#include "toolkit/resources.h"
+
+namespace kite {
+
+namespace {
+
+// How the toolkit names the value of a control and its limits.
+struct Names {
+    char* value;
+    char* least;
+    char* most;
+};
+
+const Names kScale{XmNvalue, XmNminimum, XmNmaximum};
+const Names kSpin{XmNposition, XmNminimumValue, XmNmaximumValue};
+
+int clamped(long value, int least, int most)
+{
+    return static_cast<int>(std::clamp(value, long{least}, long{std::max(least, most)}));
+}
+
+void setValue(Widget control, const Names& names, long value)
+{
+    const int least = resource<int>(control, names.least);
+    const int most = resource<int>(control, names.most);
+    XtVaSetValues(control, names.value, clamped(value, least, most), nullptr);
+}
+
+void setRange(Widget control, const Names& names, int least, int most)
+{
+    const int value = resource<int>(control, names.value);
+    XtVaSetValues(control, names.least, least, names.most, most, names.value,
+                  clamped(value, least, most), nullptr);
+}
+
+}  // namespace
+
+void setScaleValue(Widget scale, long value)
+{
+    setValue(scale, kScale, value);
+}
+
+void setSpinPosition(Widget spin, long position)
+{
+    setValue(spin, kSpin, position);
+}
+
+void setScaleRange(Widget scale, int least, int most)
+{
+    setRange(scale, kScale, least, most);
+}
+
+void setSpinRange(Widget spin, int least, int most)
+{
+    setRange(spin, kSpin, least, most);
+}
+
+}  // namespace kite

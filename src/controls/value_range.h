@@ -1,0 +1,17 @@
+// value_range.h: values of scales and spin boxes, within the range that they have.
+
+#pragma once
+
+#include <X11/Intrinsic.h>
+
+namespace kite {
+
+// The nearest value that the control has: the toolkit would take it too, and complain.
+void setScaleValue(Widget scale, long value);
+void setSpinPosition(Widget spin, long position);
+
+// A range that the toolkit refuses leaves the control as it is. The value follows the range.
+void setScaleRange(Widget scale, int least, int most);
+void setSpinRange(Widget spin, int least, int most);
+
+}  // namespace kite

@@ -1,0 +1,15 @@
+// closing.h: what guiClose does to dialogs, which lie above the frame.
+
+#pragma once
+
+#include <X11/Intrinsic.h>
+
+namespace kite::frame {
+
+struct DialogActions {
+    bool (*abandon)();  // throws away a dialog under construction, if there is one
+    void (*noteCode)(Widget top, int code);  // the top window is closed with this code
+};
+void setDialogActions(const DialogActions& actions);
+
+}  // namespace kite::frame

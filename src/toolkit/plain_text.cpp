@@ -1,0 +1,35 @@
+#include "toolkit/plain_text.h"
+
+#include "toolkit/resources.h"
+#include "toolkit/xt_string.h"
+
+namespace kite {
+
+std::string plainText(XmString string)
+{
+    std::string text;
+    XmStringContext context = nullptr;
+    if (!string || !XmStringInitContext(&context, string)) return text;
+    unsigned int length = 0;
+    XtPointer value = nullptr;
+    XmStringComponentType type = XmSTRING_COMPONENT_END;
+    while ((type = XmStringGetNextTriple(context, &length, &value)) != XmSTRING_COMPONENT_END) {
+        const XtString owned{static_cast<char*>(value)};
+        if (type == XmSTRING_COMPONENT_TEXT || type == XmSTRING_COMPONENT_LOCALE_TEXT)
+            text.append(owned.get(), length);
+        else if (type == XmSTRING_COMPONENT_SEPARATOR)
+            text += '\n';
+    }
+    XmStringFreeContext(context);
+    return text;
+}
+
+std::string plainTextOf(Widget widget, const char* name)
+{
+    auto* const string = resource<XmString>(widget, name);
+    std::string text = plainText(string);
+    XmStringFree(string);
+    return text;
+}
+
+}  // namespace kite
