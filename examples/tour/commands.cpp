@@ -7,6 +7,7 @@
 #include <array>
 
 #include "boxes.h"
+#include "dialogs.h"
 #include "output.h"
 #include "report.h"
 
@@ -102,6 +103,11 @@ constexpr Action kActions[] = {
     {AskHiddenText, askHiddenText},
     {NestBoxes, nestBoxes},
     {ShowAbout, showAbout},
+    {ShowRegistration, showRegistration},
+    {ShowPictures, showPictures},
+    {ShowKeys, showKeys},
+    {ShowNestedDialogs, showNestedDialogs},
+    {ShowHoverHelp, showHoverHelp},
 };
 
 // F1 to F9 in the Output area.
@@ -123,6 +129,13 @@ void runCommand(int id, int state)
     if (id == Protect) return setProtection(state);
     for (const Action& action : kActions)
         if (action.command == id) action.act();
+}
+
+int runDialog(GuiHandler handler)
+{
+    const int code = guiRunDialog(handler);
+    guiSetCommandCheck(Timer, 0);
+    return code;
 }
 
 void tick()

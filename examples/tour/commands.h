@@ -31,7 +31,12 @@ enum Command {
     AskText,
     AskHiddenText,
     NestBoxes,
-    ShowAbout
+    ShowAbout,
+    ShowRegistration,
+    ShowPictures,
+    ShowKeys,
+    ShowNestedDialogs,
+    ShowHoverHelp
 };
 
 // Builds the menu bar and the toolbar.

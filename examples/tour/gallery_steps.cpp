@@ -34,6 +34,19 @@ std::function<void()> typed(const std::string& text)
     };
 }
 
+std::function<void()> text(const std::string& text)
+{
+    return [=] { robot().type(text); };
+}
+
+std::function<void()> keysThenText(KeySym first, const std::string& text)
+{
+    return [=] {
+        robot().key(first);
+        robot().type(text);
+    };
+}
+
 Window frame()
 {
     static const Window window = wm::waitForWindow(kFrameTitle);
@@ -66,6 +79,13 @@ std::function<void()> clicked(ToolbarButton button)
 void rest()
 {
     robot().moveTo(middleOf(SelectButton));
+}
+
+// The label at the top left of "Help at hand".
+void restOnDialog()
+{
+    const Window dialog = wm::waitForWindow("Help at hand");
+    robot().moveTo(wm::clientRect(dialog).corner() + Point{30, 28});
 }
 
 void leaveToolbar()
@@ -126,6 +146,33 @@ const std::vector<Step>& gallerySteps()
         {"nested-outer", "F9 asks before it nests", key(XK_F9)},
         {"nested-inner", "Yes: a box on a box", key(XK_Return)},
         {"nested-answered", "Return closes both", key(XK_Return)},
+        {"menu-dialogs", "Alt+D: the dialogs", key(XK_d, Alt)},
+        {"registration", "R: a form", key(XK_r)},
+        {"registration-name", "a name is typed: the button can be pressed", text("Ada Lovelace")},
+        {"registration-password", "Tab, a password: it cannot be read",
+         keysThenText(XK_Tab, "abc")},
+        {"registration-left", "Tab: a word on the password", key(XK_Tab)},
+        {"registration-chosen", "Tab and Space: radio buttons and the check box are set",
+         keys({XK_Tab, XK_Tab, XK_space, XK_Tab, XK_Tab, XK_Tab, XK_space, XK_Tab, XK_space})},
+        {"registration-done", "Return registers", key(XK_Return)},
+        {"pictures", "Control+V shows pictures", key(XK_v, Control)},
+        {"pictures-next", "Right: the next one", key(XK_Right)},
+        {"pictures-last", "and the last one", key(XK_Right)},
+        {"pictures-cleared", "Tab to None, and Space", keys({XK_Tab, XK_Tab, XK_space})},
+        {"pictures-closed", "Escape closes them", key(XK_Escape)},
+        {"keyboard", "Control+B shows the keyboard", key(XK_b, Control)},
+        {"keyboard-keys", "Up, Delete and F7 on the button", keys({XK_Up, XK_Delete, XK_F7})},
+        {"keyboard-control", "Control+F2", key(XK_F2, Control)},
+        {"keyboard-closed", "Escape closes it", key(XK_Escape)},
+        {"outer", "Control+D opens a dialog", key(XK_d, Control)},
+        {"inner", "Return opens another one in it", key(XK_Return)},
+        {"inner-typed", "a town is typed", text(" and Paris")},
+        {"inner-closed", "Return: it is in the outer one", key(XK_Return)},
+        {"outer-closed", "Escape closes that too", key(XK_Escape)},
+        {"hover-help", "Control+U has help at hand", key(XK_u, Control)},
+        {"hover-help-rested", "the pointer rests on the first control", restOnDialog},
+        {"hover-help-asked", "F1 asks for help on the edit", key(XK_F1)},
+        {"hover-help-closed", "Return closes it", key(XK_Return)},
         {"icon", "the frame is iconified", [] { wm::iconify(frame()); }},
         {"restored", "and brought back", [] { wm::deiconify(frame()); }},
         {"closing", "Control+Q leaves", key(XK_q, Control)},

@@ -86,6 +86,14 @@ constexpr MenuEntry kMenuBar[] = {
     item("A &hidden text...", AskHiddenText),
     kEnd,
 
+    menu("&Dialogs"),
+    item("&Registration...", ShowRegistration, 'g'),
+    item("&Pictures...", ShowPictures, 'v'),
+    item("&Keyboard...", ShowKeys, 'b'),
+    item("A dialog in a &dialog...", ShowNestedDialogs, 'd'),
+    item("&Help at hand...", ShowHoverHelp, 'u'),
+    kEnd,
+
     menu("&Help"),
     item("&About the tour", ShowAbout),
     kEnd,

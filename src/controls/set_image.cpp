@@ -70,12 +70,13 @@ images::Picture load(Screen* screen, const char* fileName, Pixel background)
     return picture;
 }
 
-// The toolkit paints a control that is not sensitive without a picture: none is made for that.
+// The toolkit paints a control that is not sensitive without a picture: none is made for that. And toggle
+// buttons, which image controls are, would keep their first picture as the one of a third state.
 void show(Widget control, Pixmap picture)
 {
     XtVaSetValues(control, XmNlabelType, XmPIXMAP, XmNlabelPixmap, picture, XmNselectPixmap,
-                  picture, XmNlabelInsensitivePixmap, XmUNSPECIFIED_PIXMAP,
-                  XmNselectInsensitivePixmap, XmUNSPECIFIED_PIXMAP, nullptr);
+                  picture, XmNindeterminatePixmap, picture, XmNlabelInsensitivePixmap,
+                  XmUNSPECIFIED_PIXMAP, XmNselectInsensitivePixmap, XmUNSPECIFIED_PIXMAP, nullptr);
     keepShownPicture(control, picture);
     paintNow(control);
 }

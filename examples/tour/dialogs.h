@@ -1,0 +1,18 @@
+// dialogs.h: one command for each of the tour's dialogs.
+
+#pragma once
+
+#include <kitegui.h>
+
+namespace tour {
+
+void showRegistration();
+void showPictures();
+void showKeys();
+void showNestedDialogs();
+void showHoverHelp();
+
+// Runs the dialog that was built. The library stops the timer when a dialog ends: the menu says so.
+int runDialog(GuiHandler handler);
+
+}  // namespace tour
