@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <string>
 
 #include "environment.h"
@@ -89,7 +90,10 @@ int main(int argc, char** argv)
     const std::string program = std::filesystem::absolute(argv[2]);
     const TemporaryDirectory files{"gallery"};  // what the tour saves
     std::filesystem::current_path(files.path());
-    Process tour{{program}, {{"KITE_PROFILE", "/dev/null"}}};
+    // Insertion cursors that blink would change the screen for ever.
+    const std::string resources = files.path() / "resources";
+    std::ofstream{resources} << "*blinkRate: 0\n";
+    Process tour{{program}, {{"KITE_PROFILE", "/dev/null"}, {"XENVIRONMENT", resources}}};
     Window const frame = wm::waitForWindow(tour::kFrameTitle);
     if (!frame || !wm::waitForFocus(frame)) {
         std::puts("The tour did not start");

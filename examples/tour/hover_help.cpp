@@ -17,7 +17,7 @@ const char* explanationOf(int control)
 {
     switch (control) {
     case Title: return "What is played.";
-    case Field: return "The title of the piece, as it stands on the sleeve.";
+    case Field: return "The title, as on the sleeve.";
     case Loud: return "For the whole house.";
     case Quiet: return "For headphones.";
     case Repeat: return "Begins anew at the end.";

@@ -13,7 +13,7 @@ namespace {
 enum Control { Close = GUI_CANCEL_BUTTON, Button = 1, Field, FirstLine };
 
 constexpr int kLines = 4;
-constexpr int kWidth = 132;  // dialog units
+constexpr int kWidth = 148;  // dialog units
 constexpr int kHistory = 3;  // the row where it begins
 
 std::deque<std::string> latest;  // the newest first
@@ -43,16 +43,14 @@ std::string described(int key, bool hasControl)
 void build()
 {
     guiDialog("Keyboard");
-    guiLabel(GUI_ANONYMOUS, 0, 0, kWidth,
-             "Press F1 to F12 anywhere, or arrows, Delete, Insert and");
-    guiLabel(GUI_ANONYMOUS, 1, 0, kWidth,
-             "BackSpace on the button. An edit keeps those to itself.");
+    guiLabel(GUI_ANONYMOUS, 0, 0, kWidth, "F1 to F12 are heard anywhere; arrows, Delete,");
+    guiLabel(GUI_ANONYMOUS, 1, 0, kWidth, "Insert and BackSpace on the button only.");
     guiButton(Button, 2, 0, 48, "A button", 0);
-    guiEdit(Field, 2, 56, 76, 0, 0);
+    guiEdit(Field, 2, 56, kWidth - 56, 0, 0);
     guiLine(GUI_ANONYMOUS, kHistory, kLines + 1, 0, kWidth);
     for (int line = 0; line < kLines; ++line)
         guiLabel(FirstLine + line, kHistory + line, 6, kWidth - 12, "");
-    guiButton(Close, kHistory + kLines + 1, 42, 48, "Close", 0);
+    guiButton(Close, kHistory + kLines + 1, 50, 48, "Close", 0);
 }
 
 void begin()

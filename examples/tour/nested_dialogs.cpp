@@ -18,9 +18,16 @@ Line town{"London"};
 enum OuterControl { CloseOuter = GUI_CANCEL_BUTTON, Town = 1, Change };
 enum InnerControl { Cancel = GUI_CANCEL_BUTTON, Field = 1, Ok };
 
+// What is typed comes behind the town.
+void beginInner()
+{
+    guiSetText(Field, town.data());
+    guiSetPos(Field, guiGetTextLen(Field));
+}
+
 int handleInner(int event, int id, int, int)
 {
-    if (event == GUI_EVENT_INIT) guiSetText(Field, town.data());
+    if (event == GUI_EVENT_INIT) beginInner();
     if (event != GUI_EVENT_COMMAND) return 0;
     if (id == Ok) guiGetText(Field, town.data(), kLongest);
     guiClose(id);

@@ -13,8 +13,8 @@ namespace tour {
 
 namespace {
 
-constexpr int kWidth = 240;  // pixels; rows of three bytes a pixel need no padding then
-constexpr int kHeight = 160;
+constexpr int kWidth = 244;  // pixels; rows of three bytes a pixel need no padding then
+constexpr int kHeight = 180;
 constexpr int kHeaderSize = 54;
 
 struct Colour {
@@ -45,13 +45,13 @@ constexpr double kDiscRadius = 16;
 
 double hillTop(int x)
 {
-    return 118 + 12 * std::sin(x / 31.0) + 7 * std::sin(x / 13.0 + 1);
+    return 132 + 12 * std::sin(x / 31.0) + 7 * std::sin(x / 13.0 + 1);
 }
 
 Colour colourAt(const Scene& scene, int x, int y)
 {
     if (y > hillTop(x)) return mixed(scene.hills, {0, 0, 0}, (y - hillTop(x)) / kHeight);
-    const Colour sky = mixed(scene.zenith, scene.horizon, y / 130.0);
+    const Colour sky = mixed(scene.zenith, scene.horizon, y / 145.0);
     const double distance = std::hypot(x - scene.discX, y - scene.discY) - kDiscRadius;
     return mixed(scene.disc, sky, distance < 0 ? 0 : 0.55 + distance / 60);
 }
