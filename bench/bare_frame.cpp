@@ -131,14 +131,20 @@ void processUntilPainted(Widget text)
     XSync(XtDisplay(text), False);
 }
 
-void processUntilAllPainted(Widget widget)
+void processAll(Widget widget)
 {
-    processUntilPainted(widget);
+    XSync(XtDisplay(widget), False);
     XtAppContext const application = XtWidgetToApplicationContext(widget);
     while (XtAppPending(application) & XtIMXEvent) {
         while (XtAppPending(application) & XtIMXEvent) XtAppProcessEvent(application, XtIMXEvent);
         XSync(XtDisplay(widget), False);
     }
+}
+
+void processUntilAllPainted(Widget widget)
+{
+    processUntilPainted(widget);
+    processAll(widget);
 }
 
 }  // namespace bench

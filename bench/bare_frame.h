@@ -23,7 +23,10 @@ void closeBareFrame(BareFrame& frame);
 // Processes events until the text has been painted and the server has done so.
 void processUntilPainted(Widget text);
 
-// The same for a widget and everything inside it.
+// Processes the events that have come, and those that come of them.
+void processAll(Widget widget);
+
+// Until a widget has been painted and everything inside it.
 void processUntilAllPainted(Widget widget);
 
 }  // namespace bench

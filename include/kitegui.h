@@ -721,7 +721,8 @@ KITEGUI_API void guiSetFocus(int id);
 KITEGUI_API void guiSetVisible(int id, int visible);
 
 /*
- * Gives a control its text, which is seen at once. Null is an empty text.
+ * Gives a control its text, which is seen at once, also when the handler computes on. (Of dozens of texts set
+ * in a row the last ones are seen when the handler returns.) Null is an empty text.
  *
  *   label, check box, radio button, push button  as their constructors do; a push button that showed an
  *                     image shows its text again
