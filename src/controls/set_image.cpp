@@ -70,12 +70,13 @@ images::Picture load(Screen* screen, const char* fileName, Pixel background)
     return picture;
 }
 
-// The toolkit paints a control that is not sensitive without a picture: none is made for that.
+// The toolkit paints a control that is not sensitive without a picture: none is made for that. A toggle button
+// takes its first picture for its indeterminate state as well, and would keep asking for that one's size.
 void show(Widget control, Pixmap picture)
 {
     XtVaSetValues(control, XmNlabelType, XmPIXMAP, XmNlabelPixmap, picture, XmNselectPixmap,
-                  picture, XmNlabelInsensitivePixmap, XmUNSPECIFIED_PIXMAP,
-                  XmNselectInsensitivePixmap, XmUNSPECIFIED_PIXMAP, nullptr);
+                  picture, XmNindeterminatePixmap, picture, XmNlabelInsensitivePixmap,
+                  XmUNSPECIFIED_PIXMAP, XmNselectInsensitivePixmap, XmUNSPECIFIED_PIXMAP, nullptr);
     keepShownPicture(control, picture);
     paintNow(control);
 }
