@@ -202,9 +202,7 @@ GUI_TEST(GetText, OfATreeIsItsSelectedItem)
     runDialog({.fill = [] {
         Widget const tree = makeTree(Tree, {"root", "branch"});
         EXPECT_EQ(readInto(Tree, 100), (Read{0, ""}));
-        WidgetList items = nullptr;
-        XtVaGetValues(tree, XmNchildren, &items, nullptr);
-        XtVaSetValues(tree, XmNselectedObjects, &items[1], XmNselectedObjectCount, 1, nullptr);
+        selectTreeItem(tree, "branch");
         EXPECT_EQ(readInto(Tree, 100), (Read{6, "branch"}));
         EXPECT_EQ(readInto(Tree, 4), (Read{3, "bra"}));
         EXPECT_MISUSE(guiGetTextLen(Tree), "GetTextLen: unsuitable control type (id = 14)", -1);

@@ -91,13 +91,13 @@ Widget makeSpin(int id)
     return make("v_dlgspinbox", xmSimpleSpinBoxWidgetClass, id, Spin, {2, 70, kSmall},
                 XmNmarginWidth, 0, XmNmarginHeight, 0, XmNshadowThickness, 1, XmNhighlightThickness,
                 1, XmNspinBoxChildType, XmNUMERIC, XmNminimumValue, 0, XmNmaximumValue, 100,
-                XmNincrementValue, 1, XmNeditable, True);
+                XmNincrementValue, 1, XmNeditable, True, XmNnavigationType, XmEXCLUSIVE_TAB_GROUP);
 }
 
 Widget makeSlider(int id)
 {
     return make("v_dlgscale", xmScaleWidgetClass, id, Slider, {2, 100, kSmall}, XmNorientation,
-                XmHORIZONTAL, XmNmaximum, 100);
+                XmHORIZONTAL, XmNmaximum, 100, XmNnavigationType, XmEXCLUSIVE_TAB_GROUP);
 }
 
 Widget makeProgress(int id)
@@ -128,10 +128,10 @@ Widget makeText(int id, const std::string& text)
 Widget makeTree(int id, const std::vector<std::string>& items)
 {
     Widget const scrolled = makeScrolled(id, Tree, {2, 200, kLarge}, 2, XmAUTOMATIC);
-    Widget const tree =
-        XtVaCreateManagedWidget("v_dlgtree", xmContainerWidgetClass, scrolled, XmNlayoutType,
-                                XmOUTLINE, XmNselectionPolicy, XmBROWSE_SELECT, XmNshadowThickness,
-                                0, XmNhighlightThickness, 0, XmNuserData, nullptr, nullptr);
+    Widget const tree = XtVaCreateManagedWidget(
+        "v_dlgtree", xmContainerWidgetClass, scrolled, XmNlayoutType, XmOUTLINE, XmNselectionPolicy,
+        XmBROWSE_SELECT, XmNshadowThickness, 0, XmNhighlightThickness, 0, XmNnavigationType,
+        XmEXCLUSIVE_TAB_GROUP, XmNuserData, nullptr, nullptr);
     std::intptr_t number = 0;
     for (const std::string& item : items) {
         XmString const label = XmStringCreateLocalized(const_cast<char*>(item.c_str()));
@@ -140,6 +140,13 @@ Widget makeTree(int id, const std::vector<std::string>& items)
         XmStringFree(label);
     }
     return tree;
+}
+
+void selectTreeItem(Widget tree, const std::string& item)
+{
+    Widget found = findByLabel(item, tree);
+    ASSERT_TRUE(found);
+    XtVaSetValues(tree, XmNselectedObjects, &found, XmNselectedObjectCount, 1, nullptr);
 }
 
 void buildSimpleKinds()

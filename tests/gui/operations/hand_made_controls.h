@@ -48,6 +48,8 @@ Widget makeTree(int id, const std::vector<std::string>& items = {});
 Widget makeSlider(int id);
 Widget makeSpin(int id);
 
+void selectTreeItem(Widget tree, const std::string& item);
+
 // One control of every kind; the number of the kind is its id.
 void buildSimpleKinds();  // between guiDialog and guiRunDialog
 void makeOtherKinds();    // while the dialog runs

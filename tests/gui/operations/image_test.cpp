@@ -175,8 +175,9 @@ GUI_TEST(Image, IsTheSelectedOneTooAndNoneForADisabledControl)
             SCOPED_TRACE(id);
             guiSetImage(id, file.c_str());
             EXPECT_NE(pixmapOf(id, XmNlabelPixmap), XmUNSPECIFIED_PIXMAP);
-            EXPECT_EQ(pixmapOf(id, XmNselectPixmap), pixmapOf(id, XmNlabelPixmap));
             EXPECT_EQ(pixmapOf(id, XmNlabelInsensitivePixmap), XmUNSPECIFIED_PIXMAP);
+            if (id == 3) continue;  // the toolkit's push buttons have no others
+            EXPECT_EQ(pixmapOf(id, XmNselectPixmap), pixmapOf(id, XmNlabelPixmap));
             EXPECT_EQ(pixmapOf(id, XmNselectInsensitivePixmap), XmUNSPECIFIED_PIXMAP);
         }
     });

@@ -1,6 +1,7 @@
 // Which widget an id stands for.
 
 #include <Xm/BulletinB.h>
+#include <Xm/Label.h>
 #include <Xm/Scale.h>
 
 #include "dialog_plan.h"
@@ -107,9 +108,12 @@ GUI_TEST(Lookup, AControlThatIsBeingDestroyedIsNotTouched)
     recorder.onEvent(GUI_EVENT_COMMAND, 1, [] {
         Widget const edit = outerOf(2);
         XtDestroyWidget(edit);
+        ASSERT_EQ(outerOf(2), edit);
         guiSetText(2, "new");
         EXPECT_EQ(textOf(edit), "");
-        EXPECT_EQ(labelOf(findWidgets("v_dlglabel").front()), "new");
+        EXPECT_EQ(labelOf(findWidget("twin")), "new") << "the next of this id";
+        XtDestroyWidget(findWidget("twin"));
+        EXPECT_TRUE(isMissing(2));
     });
     runDialog({.build =
                    [] {
@@ -118,11 +122,12 @@ GUI_TEST(Lookup, AControlThatIsBeingDestroyedIsNotTouched)
                    },
                .look =
                    [&](Shown dialog) {
-                       XtVaCreateManagedWidget("unused", xmScaleWidgetClass, board(), XmNuserData,
-                                               XtPointer(std::intptr_t{2 << 16 | Slider}), nullptr);
+                       XtVaCreateManagedWidget("twin", xmLabelWidgetClass, board(), XmNuserData,
+                                               XtPointer(std::intptr_t{2 << 16 | Label}), nullptr);
                        EXPECT_EQ(guiIdStatus(2), 1);
                        dialog.click("Destroy");
                        EXPECT_EQ(recorder.count(GUI_EVENT_COMMAND), 1);
+                       EXPECT_EQ(guiIdStatus(2), -1);
                    }});
 }
 

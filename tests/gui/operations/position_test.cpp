@@ -121,12 +121,10 @@ GUI_TEST(Position, OfATreeIsTheNumberBehindItsItems)
     withKinds([] {
         Widget const tree = innerOf(Tree);
         EXPECT_EQ(guiGetPos(Tree), 0);
-        WidgetList items = nullptr;
-        XtVaGetValues(tree, XmNchildren, &items, nullptr);
-        for (const int i : {0, 1}) {
-            XtVaSetValues(tree, XmNselectedObjects, &items[i], XmNselectedObjectCount, 1, nullptr);
-            const auto number =
-                reinterpret_cast<std::intptr_t>(resource<XtPointer>(items[i], XmNuserData));
+        int number = 0;
+        for (const char* const item : {"root", "branch"}) {
+            ++number;  // as it stands in the item's user data
+            selectTreeItem(tree, item);
             EXPECT_EQ(guiGetPos(Tree), number + 1);
             guiSetPos(Tree, 0);
             EXPECT_EQ(guiGetPos(Tree), number + 1) << "cannot be set";
