@@ -199,14 +199,21 @@ GUI_TEST(GetText, OfAnEmptyChoiceOrComboIsEmpty)
 
 GUI_TEST(GetText, OfATreeIsItsSelectedItem)
 {
-    runDialog({.fill = [] {
-        Widget const tree = makeTree(Tree, {"root", "branch"});
-        EXPECT_EQ(readInto(Tree, 100), (Read{0, ""}));
-        selectTreeItem(tree, "branch");
-        EXPECT_EQ(readInto(Tree, 100), (Read{6, "branch"}));
-        EXPECT_EQ(readInto(Tree, 4), (Read{3, "bra"}));
-        EXPECT_MISUSE(guiGetTextLen(Tree), "GetTextLen: unsuitable control type (id = 14)", -1);
-    }});
+    runDialog({.fill =
+                   [] {
+                       makeTree(Tree, {"root", "branch"});
+                   },
+               .look =
+                   [](Shown) {
+                       EXPECT_EQ(readInto(Tree, 100), (Read{0, ""}));
+                       selectTreeItem(innerOf(Tree), "branch");
+                       EXPECT_EQ(readInto(Tree, 100), (Read{6, "branch"}));
+                       EXPECT_EQ(readInto(Tree, 4), (Read{3, "bra"}));
+                       selectTreeItem(innerOf(Tree), "root");
+                       EXPECT_EQ(readInto(Tree, 100), (Read{4, "root"}));
+                       EXPECT_MISUSE(guiGetTextLen(Tree),
+                                     "GetTextLen: unsuitable control type (id = 14)", -1);
+                   }});
 }
 
 GUI_TEST(GetText, LengthsHaveNoLimit)

@@ -13,7 +13,7 @@
 #include <Xm/TextF.h>
 #include <kitegui.h>
 
-#include "recorder.h"
+#include "robot.h"
 #include "widgets.h"
 
 namespace kite::testing {
@@ -108,7 +108,7 @@ Widget makeProgress(int id)
 
 Widget makeList(int id, const std::vector<std::string>& items, unsigned char policy)
 {
-    Widget const scrolled = makeScrolled(id, List, {0, 200, kLarge}, 2, XmAPPLICATION_DEFINED);
+    Widget const scrolled = makeScrolled(id, List, {0, 280, kLarge}, 2, XmAPPLICATION_DEFINED);
     Widget const list = XtVaCreateManagedWidget(
         "v_dlglist", xmListWidgetClass, scrolled, XmNshadowThickness, 0, XmNhighlightThickness, 1,
         XmNlistSizePolicy, XmCONSTANT, XmNselectionPolicy, policy, XmNuserData, nullptr, nullptr);
@@ -118,7 +118,7 @@ Widget makeList(int id, const std::vector<std::string>& items, unsigned char pol
 
 Widget makeText(int id, const std::string& text)
 {
-    Widget const scrolled = makeScrolled(id, MultiLine, {1, 200, kLarge}, 0, XmAPPLICATION_DEFINED);
+    Widget const scrolled = makeScrolled(id, MultiLine, {1, 280, kLarge}, 0, XmAPPLICATION_DEFINED);
     return XtVaCreateManagedWidget(
         "v_dlgtext", xmTextWidgetClass, scrolled, XmNeditMode, XmMULTI_LINE_EDIT,
         XmNshadowThickness, 2, XmNhighlightThickness, 0, XmNmarginWidth, 3, XmNmarginHeight, 1,
@@ -127,7 +127,7 @@ Widget makeText(int id, const std::string& text)
 
 Widget makeTree(int id, const std::vector<std::string>& items)
 {
-    Widget const scrolled = makeScrolled(id, Tree, {2, 200, kLarge}, 2, XmAUTOMATIC);
+    Widget const scrolled = makeScrolled(id, Tree, {2, 280, kLarge}, 2, XmAUTOMATIC);
     Widget const tree = XtVaCreateManagedWidget(
         "v_dlgtree", xmContainerWidgetClass, scrolled, XmNlayoutType, XmOUTLINE, XmNselectionPolicy,
         XmBROWSE_SELECT, XmNshadowThickness, 0, XmNhighlightThickness, 0, XmNnavigationType,
@@ -144,9 +144,9 @@ Widget makeTree(int id, const std::vector<std::string>& items)
 
 void selectTreeItem(Widget tree, const std::string& item)
 {
-    Widget found = findByLabel(item, tree);
+    Widget const found = findByLabel(item, tree);
     ASSERT_TRUE(found);
-    XtVaSetValues(tree, XmNselectedObjects, &found, XmNselectedObjectCount, 1, nullptr);
+    Robot::instance().click(found);
 }
 
 void buildSimpleKinds()

@@ -48,6 +48,7 @@ Widget makeTree(int id, const std::vector<std::string>& items = {});
 Widget makeSlider(int id);
 Widget makeSpin(int id);
 
+// Of a tree on the screen, with the mouse.
 void selectTreeItem(Widget tree, const std::string& item);
 
 // One control of every kind; the number of the kind is its id.

@@ -76,7 +76,7 @@ GUI_TEST(Moments, AnEventOfTheTimerWhileABoxIsOpen)
                .look =
                    [&](Shown) {
                        app.whenShown("v_infobox", [&](Shown box) {
-                           guiTimer(1);
+                           guiTimer(100);
                            EXPECT_TRUE(pumpUntil([&] { return ticks > 0; }));
                            guiTimer(0);
                            box.key(XK_Return);

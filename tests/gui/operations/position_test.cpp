@@ -116,20 +116,24 @@ GUI_TEST(Position, OfAListIsItsTopItem)
                }});
 }
 
-GUI_TEST(Position, OfATreeIsTheNumberBehindItsItems)
+GUI_TEST(Position, OfATreeIsTheNumberBehindItsItem)
 {
-    withKinds([] {
-        Widget const tree = innerOf(Tree);
-        EXPECT_EQ(guiGetPos(Tree), 0);
-        int number = 0;
-        for (const char* const item : {"root", "branch"}) {
-            ++number;  // as it stands in the item's user data
-            selectTreeItem(tree, item);
-            EXPECT_EQ(guiGetPos(Tree), number + 1);
-            guiSetPos(Tree, 0);
-            EXPECT_EQ(guiGetPos(Tree), number + 1) << "cannot be set";
-        }
-    });
+    runDialog({.fill =
+                   [] {
+                       makeTree(Tree, {"root", "branch"});
+                   },
+               .look =
+                   [](Shown) {
+                       EXPECT_EQ(guiGetPos(Tree), 0) << "nothing is selected";
+                       int number = 0;
+                       for (const char* const item : {"root", "branch"}) {
+                           ++number;  // as it stands in the item's user data
+                           selectTreeItem(innerOf(Tree), item);
+                           EXPECT_EQ(guiGetPos(Tree), number + 1);
+                           guiSetPos(Tree, 0);
+                           EXPECT_EQ(guiGetPos(Tree), number + 1) << "cannot be set";
+                       }
+                   }});
 }
 
 GUI_TEST(Position, OfAChoiceIsAsTheToolkitCounts)
