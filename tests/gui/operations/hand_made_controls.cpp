@@ -144,9 +144,14 @@ Widget makeTree(int id, const std::vector<std::string>& items)
 
 void selectTreeItem(Widget tree, const std::string& item)
 {
-    Widget const found = findByLabel(item, tree);
-    ASSERT_TRUE(found);
-    Robot::instance().click(found);
+    for (Widget const child : childrenOf(tree)) {
+        if (!XtIsSubclass(child, xmIconGadgetClass)) continue;
+        auto* const label = resource<XmString>(child, XmNlabelString);
+        const bool isIt = toString(label) == item;
+        XmStringFree(label);
+        if (isIt) return Robot::instance().click(child);
+    }
+    ADD_FAILURE() << "The tree has no item " << item;
 }
 
 void buildSimpleKinds()
