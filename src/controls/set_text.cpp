@@ -86,12 +86,20 @@ constexpr Setter kSetters[] = {
 
 constexpr TypeSet kWithText{Label, Edit, Button, Check, Radio, Text, Combo, Spin};
 
+// A shorter or longer text changes them, and the toolkit only clears them at first.
+void paintScrollBarsNow(Widget scrolled)
+{
+    for (const char* const name : {XmNverticalScrollBar, XmNhorizontalScrollBar})
+        if (Widget const bar = resource<Widget>(scrolled, name)) paintNow(bar);
+}
+
 void setText(const Control& control, const char* text)
 {
     const EventsSuppressed quiet;
     for (const Setter& setter : kSetters)
         if (setter.type == control.type) setter.set(control.widget, text);
     paintNow(control.widget);
+    if (control.outer != control.widget) paintScrollBarsNow(control.outer);
 }
 
 }  // namespace
