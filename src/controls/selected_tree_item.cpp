@@ -6,10 +6,13 @@
 
 namespace kite {
 
+// Other than lists of children, this one is made anew each time it is asked for.
 Widget selectedTreeItem(Widget container)
 {
-    if (resource<Cardinal>(container, XmNselectedObjectCount) == 0) return nullptr;
-    return resource<WidgetList>(container, XmNselectedObjects)[0];
+    WidgetList const items = resource<WidgetList>(container, XmNselectedObjects);
+    Widget const first = items ? items[0] : nullptr;
+    XtFree(reinterpret_cast<char*>(items));
+    return first;
 }
 
 }  // namespace kite

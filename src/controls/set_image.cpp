@@ -70,8 +70,8 @@ images::Picture load(Screen* screen, const char* fileName, Pixel background)
     return picture;
 }
 
-// The toolkit paints a control that is not sensitive without a picture: none is made for that. And toggle
-// buttons, which image controls are, would keep their first picture as the one of a third state.
+// The toolkit paints a control that is not sensitive without a picture: none is made for that. A toggle button
+// takes its first picture for its indeterminate state as well, and would keep asking for that one's size.
 void show(Widget control, Pixmap picture)
 {
     XtVaSetValues(control, XmNlabelType, XmPIXMAP, XmNlabelPixmap, picture, XmNselectPixmap,

@@ -9,6 +9,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <string>
 
 #include "controls/control_lookup.h"
 #include "controls/value_range.h"
@@ -57,11 +58,21 @@ void setComboText(Widget combo, const char* text)
     XtVaSetValues(combo, XmNselectedItem, item.get(), nullptr);
 }
 
+// The toolkit writes it into the field only when it is another position than before.
+void showPosition(Widget spin)
+{
+    Widget const field = resource<Widget>(spin, XmNtextField);
+    if (!field || XmTextFieldGetLastPosition(field) > 0) return;
+    const std::string position = std::to_string(resource<int>(spin, XmNposition));
+    XtVaSetValues(field, XmNvalue, position.c_str(), nullptr);
+}
+
 // The number itself, other than guiSetPos, which counts from the one before: hosts use both.
 void setSpinText(Widget spin, const char* text)
 {
     clearField(spin);
     setSpinPosition(spin, std::strtol(text, nullptr, 10));
+    showPosition(spin);
 }
 
 struct Setter {
@@ -75,12 +86,20 @@ constexpr Setter kSetters[] = {
 
 constexpr TypeSet kWithText{Label, Edit, Button, Check, Radio, Text, Combo, Spin};
 
+// A shorter or longer text changes them, and the toolkit only clears them at first.
+void paintScrollBarsNow(Widget scrolled)
+{
+    for (const char* const name : {XmNverticalScrollBar, XmNhorizontalScrollBar})
+        if (Widget const bar = resource<Widget>(scrolled, name)) paintNow(bar);
+}
+
 void setText(const Control& control, const char* text)
 {
     const EventsSuppressed quiet;
     for (const Setter& setter : kSetters)
         if (setter.type == control.type) setter.set(control.widget, text);
     paintNow(control.widget);
+    if (control.outer != control.widget) paintScrollBarsNow(control.outer);
 }
 
 }  // namespace

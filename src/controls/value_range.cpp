@@ -35,6 +35,7 @@ void setValue(Widget control, const Names& names, long value)
 
 void setRange(Widget control, const Names& names, int least, int most)
 {
+    if (least >= most) return;
     const int value = resource<int>(control, names.value);
     XtVaSetValues(control, names.least, least, names.most, most, names.value,
                   clamped(value, least, most), nullptr);

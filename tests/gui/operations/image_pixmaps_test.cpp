@@ -1,0 +1,126 @@
+// The pixmaps of pictures on the server: each control has one at most, and it is freed once. (What is freed
+// twice is an X error, and fails the test.)
+
+#include "../images/server_resources.h"
+#include "pictures.h"
+
+using namespace kite::testing;
+
+namespace {
+
+unsigned pixmaps()
+{
+    settle();
+    return serverResources(toolkit::display())["PIXMAP"];
+}
+
+void buildPictured()
+{
+    guiImage(1, 0, 3, 0, 40, 1);
+    guiImage(2, 0, 3, 60, 40, 0);
+    guiButton(3, 4, 0, 60, "Text", 0);
+}
+
+constexpr int kControls[] = {1, 2, 3};
+
+}  // namespace
+
+GUI_TEST(ImagePixmaps, ReplacedPicturesAreFreed)
+{
+    const std::string files[] = {patternFile("a.bmp", 12, 12), patternFile("b.bmp", 300, 200)};
+    runDialog({.build = buildPictured, .look = [&](Shown) {
+                   const unsigned without = pixmaps();
+                   for (const int id : kControls) EXPECT_EQ(guiSetImage(id, files[0].c_str()), 0);
+                   const unsigned with = pixmaps();
+                   EXPECT_EQ(with, without + std::size(kControls));
+                   for (int i = 0; i < 100; ++i)
+                       for (const int id : kControls) guiSetImage(id, files[i % 2].c_str());
+                   EXPECT_EQ(pixmaps(), with);
+                   for (const int id : kControls) guiSetImage(id, "");
+                   EXPECT_EQ(pixmaps(), without);
+                   for (int i = 0; i < 10; ++i)
+                       for (const int id : kControls) {
+                           guiSetImage(id, files[0].c_str());
+                           guiSetImage(id, nullptr);
+                       }
+                   EXPECT_EQ(pixmaps(), without);
+               }});
+}
+
+GUI_TEST(ImagePixmaps, FailuresFreeWhatWasShown)
+{
+    const std::string good = patternFile("good.bmp", 12, 12);
+    runDialog({.build = buildPictured, .look = [&](Shown) {
+                   // The first box makes the toolkit keep pixmaps of its own.
+                   EXPECT_MISUSE(guiSetImage(1, "missing.bmp"),
+                                 "guisetimage: cannot load image missing.bmp", -1);
+                   const unsigned without = pixmaps();
+                   for (int i = 0; i < 5; ++i)
+                       for (const int id : kControls) {
+                           guiSetImage(id, good.c_str());
+                           EXPECT_MISUSE(guiSetImage(id, "missing.bmp"),
+                                         "guisetimage: cannot load image missing.bmp", -1);
+                       }
+                   EXPECT_EQ(pixmaps(), without);
+               }});
+}
+
+GUI_TEST(ImagePixmaps, AControlThatIsTooSmallKeepsNone)
+{
+    const std::string good = patternFile("good.bmp", 12, 12);
+    runDialog({.build =
+                   [] {
+                       guiUseAbsPos(1);
+                       guiImage(1, 0, 1, 0, 1, 1);
+                   },
+               .look =
+                   [&](Shown) {
+                       const unsigned without = pixmaps();
+                       for (int i = 0; i < 20; ++i) EXPECT_EQ(guiSetImage(1, good.c_str()), -1);
+                       EXPECT_EQ(pixmaps(), without);
+                   }});
+}
+
+GUI_TEST(ImagePixmaps, ATextOnAButtonKeepsAtMostOne)
+{
+    const std::string good = patternFile("good.bmp", 12, 12);
+    runDialog({.build = buildPictured, .look = [&](Shown) {
+                   const unsigned without = pixmaps();
+                   for (int i = 0; i < 20; ++i) {
+                       guiSetImage(3, good.c_str());
+                       guiSetText(3, "Text");
+                   }
+                   EXPECT_LE(pixmaps(), without + 1);
+                   guiSetImage(3, "");
+                   EXPECT_EQ(pixmaps(), without);
+               }});
+}
+
+GUI_TEST(ImagePixmaps, DestroyedControlsFreeTheirs)
+{
+    const std::string good = patternFile("good.bmp", 12, 12);
+    runDialog({.build = buildPictured, .look = [&](Shown) {
+                   const unsigned without = pixmaps();
+                   for (const int id : kControls) {
+                       guiSetImage(id, good.c_str());
+                       guiSetImage(id, good.c_str());
+                       XtDestroyWidget(outerOf(id));
+                   }
+                   EXPECT_TRUE(pumpUntil([&] { return pixmaps() <= without; }));
+               }});
+}
+
+GUI_TEST(ImagePixmaps, ClosedDialogsFreeTheirs)
+{
+    const std::string good = patternFile("good.bmp", 12, 12);
+    const auto show = [&](bool withPictures) {
+        runDialog({.build = buildPictured, .look = [&](Shown) {
+                       if (!withPictures) return;
+                       for (const int id : kControls) EXPECT_EQ(guiSetImage(id, good.c_str()), 0);
+                   }});
+        return pixmaps();
+    };
+    show(false);
+    const unsigned before = show(false);
+    for (int i = 0; i < 3; ++i) EXPECT_EQ(show(true), before);
+}
