@@ -779,8 +779,8 @@ KITEGUI_API void guiSetCheck(int id, int state);
  *   progress bar, slider   the values are min - 1 to max - 1
  *   spin box               the values are min to max
  *
- * A value outside the new limits becomes the nearest one inside. Limits that the toolkit refuses (min not
- * below max) change nothing.
+ * A value outside the new limits becomes the nearest one inside. Limits change nothing
+ * when min is not below max; for a scale they may be 1,073,741,823 apart, which is all that the toolkit can do.
  */
 KITEGUI_API void guiSetRange(int id, int min, int max);
 

@@ -19,9 +19,15 @@ struct Index {
 };
 Index& state = neverDestroyed<Index>();
 
+// Boxes have children without a tag, which must not pass for a control of id 0.
+bool isControl(Widget child)
+{
+    return !isBeingDestroyed(child) && Tag::of(child).isControl();
+}
+
 bool hasId(Widget child, int id)
 {
-    return !isBeingDestroyed(child) && Tag::of(child).id() == id;
+    return isControl(child) && Tag::of(child).id() == id;
 }
 
 void build(Widget dialog)
@@ -31,7 +37,7 @@ void build(Widget dialog)
     const auto children = childrenOf(dialog);
     state.positions.reserve(children.size());
     for (std::size_t position = 0; position < children.size(); ++position)
-        if (!isBeingDestroyed(children[position]))
+        if (isControl(children[position]))
             state.positions.emplace(Tag::of(children[position]).id(), position);
 }
 

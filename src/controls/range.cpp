@@ -3,6 +3,8 @@
 #include <Xm/Text.h>
 #include <kitegui.h>
 
+#include <climits>
+
 #include "controls/control_lookup.h"
 #include "controls/value_range.h"
 #include "frame/dispatcher.h"
@@ -15,11 +17,11 @@ using enum ControlType;
 
 constexpr TypeSet kWithRange{Edit, Text, Progress, Slider, Spin};
 
-// One less, around the ends of the numbers as well. Hosts count the values of a scale from 1; guiSetPos
+// Hosts count the values of a scale from 1; guiSetPos
 // and guiGetPos are made to fit.
 int oneLess(int number)
 {
-    return static_cast<int>(static_cast<unsigned>(number) - 1U);
+    return number > INT_MIN ? number - 1 : INT_MIN;
 }
 
 void setRange(const Control& control, int min, int max)

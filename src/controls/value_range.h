@@ -10,7 +10,7 @@ namespace kite {
 void setScaleValue(Widget scale, long value);
 void setSpinPosition(Widget spin, long position);
 
-// A range that the toolkit refuses leaves the control as it is. The value follows the range.
+// Limits of which the least is not below the most leave the control as it is. The value follows the limits.
 void setScaleRange(Widget scale, int least, int most);
 void setSpinRange(Widget spin, int least, int most);
 

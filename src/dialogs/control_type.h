@@ -75,6 +75,9 @@ public:
     // The id as the host gave it, kAnonymous too.
     constexpr int id() const { return value_ >> 16; }
 
+    // False for widgets that are no controls: 0 is no type.
+    constexpr bool isControl() const { return (value_ & 31) != 0; }
+
     // 0 to 31; no control has a type beyond those above.
     constexpr ControlType type() const { return static_cast<ControlType>(value_ & 31); }
 
