@@ -72,6 +72,21 @@ GUI_TEST(FocusLeaveOfWindow, IsReportedOnceWhenItsHandlerShowsABox)
     });
 }
 
+// The keyboard goes to another program and comes back.
+GUI_TEST(FocusLeaveOfWindow, IsReportedOnceBehindAnotherProgram)
+{
+    runDialog(build, [](Shown dialog) {
+        EXPECT_THAT(eventsDuring([&] {
+                        XSetInputFocus(toolkit::display(), PointerRoot, RevertToNone, CurrentTime);
+                        EXPECT_TRUE(pumpUntil([&] { return !wm::hasFocus(dialog.widget()); }));
+                        settle();
+                        wm::activate(dialog.widget());
+                        EXPECT_TRUE(wm::waitForFocus(dialog.widget()));
+                    }),
+                    ElementsAre(kLeft1));
+    });
+}
+
 GUI_TEST(FocusLeaveOfWindow, IsReportedOnceBehindAnInnerDialog)
 {
     recorder.onEvent(GUI_EVENT_KEY, -1, [&] {
@@ -94,12 +109,14 @@ GUI_TEST(FocusLeaveOfWindow, IsReportedOnceBehindAnInnerDialog)
     });
 }
 
-// The dialog is closed with the keyboard in the edit.
+// The dialog is closed with the keyboard in the edit: the window behind it hears of it, which has the
+// events by then.
 GUI_TEST(FocusLeaveOfWindow, IsReportedWhenTheDialogIsClosed)
 {
     recorder.onEvent(GUI_EVENT_COMMAND, 9, [] { guiClose(1); });
     const auto events = eventsOfClosing([](Shown dialog) { dialog.key(XK_Return); });
-    EXPECT_THAT(events, ElementsAre(toDialog(GUI_EVENT_COMMAND, 9), kLeft1));
+    EXPECT_THAT(events,
+                ElementsAre(toDialog(GUI_EVENT_COMMAND, 9), toWindow(GUI_EVENT_LEFT, 1, 1)));
 }
 
 // And with the keyboard somewhere else.

@@ -13,12 +13,12 @@ constexpr char kLargerHelvetica[] = "-adobe-helvetica-bold-r-normal--18-*-*-*-*-
 
 void build()
 {
-    guiLabel(-1, 0, 0, 32, "&Name:");
-    guiEdit(1, 0, 36, 80, 0, 0);
-    guiLabel(-1, 1, 0, 32, "&Password:");
-    guiEdit(2, 1, 36, 80, 1, 0);
-    guiLabel(-1, 2, 0, 32, "Read only:");
-    guiEdit(3, 2, 36, 80, 0, 1);
+    guiLabel(-1, 0, 0, 44, "&Name:");
+    guiEdit(1, 0, 48, 80, 0, 0);
+    guiLabel(-1, 1, 0, 44, "&Password:");
+    guiEdit(2, 1, 48, 80, 1, 0);
+    guiLabel(-1, 2, 0, 44, "Read only:");
+    guiEdit(3, 2, 48, 80, 0, 1);
     guiLine(-1, 3, 1, 0, 160);
     guiCheck(4, 4, 0, 70, "&Check box");
     guiCheck(5, 5, 0, 70, "Another one");

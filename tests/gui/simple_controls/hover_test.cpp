@@ -14,7 +14,7 @@ constexpr milliseconds kNothingComes{300};
 constexpr milliseconds kDelay{400};
 constexpr milliseconds kBehindTheDelay{800};
 
-enum Id { kLabel = 1, kEdit, kButton, kCheck, kRadio, kImage, kLine };
+enum Id { kLabel = 1, kEdit, kButton, kCheck, kRadio, kImage, kLine, kOtherRadio };
 
 void build()
 {
@@ -23,7 +23,7 @@ void build()
     guiButton(kButton, 2, 20, 60, "Button", 0);
     guiCheck(kCheck, 3, 20, 60, "Check");
     guiRadio(kRadio, 4, 20, 60, "Radio");
-    guiRadio(100, 5, 20, 60, "Radio");
+    guiRadio(kOtherRadio, 5, 20, 60, "Radio");
     guiImage(kImage, 6, 1, 20, 60, 1);
     guiLine(kLine, 7, 2, 20, 60);
     guiLabel(-1, 9, 20, 60, "Anonymous");
@@ -140,7 +140,7 @@ GUI_STARTUP_TEST(Hover, EndsWhenThePointerLeaves)
 GUI_STARTUP_TEST(Hover, EndsWhenTheControlIsOperated)
 {
     runWithDelay("0.4", [this](Shown) {
-        for (const int id : {kButton, kCheck, 100}) {
+        for (const int id : {kButton, kCheck, kOtherRadio}) {
             SCOPED_TRACE(id);
             recorder.clear();
             enter(id);
@@ -189,12 +189,6 @@ GUI_STARTUP_TEST(Hover, ComesAfterTwoSecondsWithoutASetting)
     });
 }
 
-GUI_STARTUP_TEST(Hover, EndsWithItsDialog)
-{
-    runWithDelay("0.4", [](Shown) { enter(kCheck); });  // inside run: the dialog is closed at once
-    EXPECT_EQ(hovers(), 0);
-}
-
 GUI_STARTUP_TEST(Hover, ThatWaitsIsGoneWhenTheDialogIs)
 {
     host.profile().setString("mouse_hover", "0.4");
@@ -214,8 +208,11 @@ GUI_STARTUP_TEST(Hover, MayCloseTheDialog)
     app.run([&] {
         ASSERT_EQ(guiDialog(""), 0);
         build();
-        recorder.onEvent(GUI_EVENT_HOVER, [] { guiClose(63); });
-        app.whenShown("v_dlgbbr", [](Shown) { enter(kButton); });
+        robot.moveTo(Point{0, 0});
+        app.whenShown("v_dlgbbr", [this](Shown) {
+            recorder.onEvent(GUI_EVENT_HOVER, [] { guiClose(63); });
+            enter(kButton);
+        });
         EXPECT_EQ(guiRunDialog(recorder.dialogHandler()), 63);
     });
 }

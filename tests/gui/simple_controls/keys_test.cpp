@@ -133,16 +133,25 @@ GUI_TEST(Keys, SpecialKeysTellWhetherControlIsHeld)
     });
 }
 
-GUI_TEST(Keys, ShiftChangesNothingButTheKeypad)
+GUI_TEST(Keys, ShiftChangesNothing)
 {
     inEachControl([](Shown dialog, const Taker& taker) {
-        for (const KeySym symbol : {XK_Up, XK_Left, XK_Delete, XK_BackSpace}) {
-            SCOPED_TRACE(symbol);
-            EXPECT_EQ(keysHeard(dialog, symbol, Shift).size(), taker.takesAll ? 1U : 0U);
+        for (const SpecialKey& special : kSpecialKeys) {
+            SCOPED_TRACE(special.name);
+            std::vector<Event> expected;
+            if (taker.takesAll) expected.push_back(key(special.code));
+            EXPECT_EQ(keysHeard(dialog, special.symbol, Shift), expected);
         }
-        // Shift makes digits of them.
-        for (const KeySym symbol : {XK_KP_Up, XK_KP_Left, XK_KP_Delete})
-            EXPECT_THAT(keysHeard(dialog, symbol, Shift), IsEmpty()) << symbol;
+    });
+}
+
+GUI_TEST(Keys, OfTheKeypadAreDigitsWithNumLock)
+{
+    inEachControl([](Shown dialog, const Taker&) {
+        dialog.key(XK_Num_Lock);
+        for (const KeySym symbol : {XK_KP_Up, XK_KP_Left, XK_KP_Right, XK_KP_Down, XK_KP_Delete})
+            EXPECT_THAT(keysHeard(dialog, symbol), IsEmpty()) << XKeysymToString(symbol);
+        dialog.key(XK_Num_Lock);
     });
 }
 
