@@ -64,30 +64,20 @@ GUI_TEST(ControlFocus, IsFirstOnTheFirstControlThatTakesIt)
                   }),
                   1);
     }
-}
 
-// The order of creation counts, not the place.
-GUI_TEST(ControlFocus, IsFirstOnTheFirstThatWasMade)
-{
     EXPECT_EQ(firstFocus([] {
                   guiButton(2, 5, 100, 40, "Button", 0);
                   guiEdit(1, 0, 0, 40, 0, 0);
               }),
               2);
-}
 
-GUI_TEST(ControlFocus, IsNotFirstOnADisabledControl)
-{
     EXPECT_EQ(firstFocus([] {
                   guiEdit(1, 0, 0, 40, 0, 0);
                   XtSetSensitive(lastControl(), False);
                   guiCheck(2, 1, 0, 40, "Check");
               }),
               2);
-}
 
-GUI_TEST(ControlFocus, OfADialogWithoutAnyTakerIsOnNoControl)
-{
     EXPECT_EQ(firstFocus([] {
                   guiLabel(100, 0, 0, 40, "Label");
                   guiLine(101, 1, 1, 0, 40);
@@ -118,19 +108,12 @@ GUI_TEST(ControlFocus, GoesWithTabInTheOrderOfCreation)
         EXPECT_EQ(guiGetFocus(), 1);
         EXPECT_THAT(idsAlongTabs(dialog, 7, NoModifier), ElementsAre(2, 3, 4, 5, 6, 1, 2));
     });
-}
 
-GUI_TEST(ControlFocus, GoesBackWithShiftTab)
-{
     runDialog(buildOneOfEach, [](Shown dialog) {
         EXPECT_EQ(guiGetFocus(), 1);
         EXPECT_THAT(idsAlongTabs(dialog, 7, Shift), ElementsAre(6, 5, 4, 3, 2, 1, 6));
     });
-}
 
-// As wild as the places may be.
-GUI_TEST(ControlFocus, OfTabsDoesNotDependOnPlaces)
-{
     runDialog(
         [] {
             guiCheck(1, 5, 80, 40, "One");

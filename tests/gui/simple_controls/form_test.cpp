@@ -28,7 +28,7 @@ void build()
     guiRadio(8, 6, 80, 70, "Third choice");
     guiLine(-1, 8, 3, 0, 70);
     guiCheck(9, 8, 4, 60, "In a frame");
-    guiCheck(10, 9, 4, 60, "In a frame, too");
+    guiCheck(10, 9, 4, 60, "And this");
     guiImage(11, 8, 3, 80, 40, 1);
     guiImage(12, 8, 3, 124, 36, 0);
     guiButton(13, 12, 0, 48, "OK", 1);
@@ -72,7 +72,8 @@ Dimension neededWidth(Widget widget)
     auto const font = resource<XmFontList>(widget, XmNfontList);
     const Dimension width = XmStringWidth(font, label);
     XmStringFree(label);
-    return width;
+    return static_cast<Dimension>(width + resource<Dimension>(widget, XmNmarginLeft) +
+                                  resource<Dimension>(widget, XmNmarginRight));
 }
 
 void expectGoodForm(Shown dialog)

@@ -192,45 +192,25 @@ void expectPlaces(const Table& table, Rect Row::*expected, const std::function<v
         [&](Shown) { expectAll(); });
 }
 
-constexpr auto rows = [] {};
-constexpr auto absolute = [] { guiUseAbsPos(1); };
+void expectAllPlaces(Rect Row::*expected)
+{
+    expectPlaces(inRows(), expected, [] {});
+    expectPlaces(atAbsolutePlaces(), expected, [] { guiUseAbsPos(1); });
+    expectPlaces(withBorders(), expected, guiShowAllBorders);
+}
 
 }  // namespace
 
-GUI_STARTUP_TEST(ControlPlace, InRowsOfTheSmallFont)
+GUI_STARTUP_TEST(ControlPlace, IsThatOfTheSmallFont)
 {
     setDialogFont(kSmallFont);
-    app.run([] { expectPlaces(inRows(), &Row::small, rows); });
+    app.run([] { expectAllPlaces(&Row::small); });
 }
 
-GUI_STARTUP_TEST(ControlPlace, InRowsOfTheLargeFont)
+GUI_STARTUP_TEST(ControlPlace, IsThatOfTheLargeFont)
 {
     setDialogFont(kLargeFont);
-    app.run([] { expectPlaces(inRows(), &Row::large, rows); });
-}
-
-GUI_STARTUP_TEST(ControlPlace, AbsoluteInTheSmallFont)
-{
-    setDialogFont(kSmallFont);
-    app.run([] { expectPlaces(atAbsolutePlaces(), &Row::small, absolute); });
-}
-
-GUI_STARTUP_TEST(ControlPlace, AbsoluteInTheLargeFont)
-{
-    setDialogFont(kLargeFont);
-    app.run([] { expectPlaces(atAbsolutePlaces(), &Row::large, absolute); });
-}
-
-GUI_STARTUP_TEST(ControlPlace, ABorderStandsOutsideInTheSmallFont)
-{
-    setDialogFont(kSmallFont);
-    app.run([] { expectPlaces(withBorders(), &Row::small, guiShowAllBorders); });
-}
-
-GUI_STARTUP_TEST(ControlPlace, ABorderStandsOutsideInTheLargeFont)
-{
-    setDialogFont(kLargeFont);
-    app.run([] { expectPlaces(withBorders(), &Row::large, guiShowAllBorders); });
+    app.run([] { expectAllPlaces(&Row::large); });
 }
 
 // The switch counts for the controls that follow, in either direction.
@@ -277,4 +257,28 @@ GUI_STARTUP_TEST(ControlPlace, HugeAndNegativeMeasuresDoNoHarm)
             guiClose(0);
         }
     });
+}
+
+// Nothing can be smaller than nothing.
+GUI_TEST(ControlPlace, NegativeWidthsAreNoWidths)
+{
+    const std::function<void(int width)> kinds[] = {
+        [](int width) { guiLabel(1, 0, 0, width, "Label"); },
+        [](int width) { guiEdit(1, 0, 0, width, 0, 0); },
+        [](int width) { guiButton(1, 0, 0, width, "Button", 0); },
+        [](int width) { guiCheck(1, 0, 0, width, "Check"); },
+        [](int width) { guiRadio(1, 0, 0, width, "Radio"); },
+        [](int width) { guiImage(1, 0, 1, 0, width, 1); },
+    };
+    const auto placeWith = [](const auto& make, int width) {
+        EXPECT_EQ(guiDialog(""), 0);
+        make(width);
+        const Rect place = placeOf(lastControl());
+        guiClose(0);
+        return place;
+    };
+    for (const auto& make : kinds)
+        for (const int width : {-1, -40, INT_MIN})
+            EXPECT_EQ(placeWith(make, width), placeWith(make, 0))
+                << "kind " << &make - kinds << ", width " << width;
 }

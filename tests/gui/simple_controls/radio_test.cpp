@@ -100,8 +100,8 @@ GUI_TEST(RadioGroup, IsPutRightByTheUser)
     });
 }
 
-// A hidden member is still one.
-GUI_TEST(RadioGroup, ReachesAcrossHiddenMembers)
+// They are members still.
+GUI_TEST(RadioGroup, ReachesAcrossHiddenAndDisabledMembers)
 {
     runDialog(buildGroups, [](Shown) {
         guiSetVisible(4, 0);
@@ -111,10 +111,7 @@ GUI_TEST(RadioGroup, ReachesAcrossHiddenMembers)
         EXPECT_THAT(eventsOfClick(3), ElementsAre(selected(3)));
         EXPECT_THAT(idsSet(), ElementsAre(1, 3, 6, 7));
     });
-}
 
-GUI_TEST(RadioGroup, ReachesAcrossDisabledMembers)
-{
     runDialog(buildGroups, [](Shown) {
         guiEnable(3, 0);
         guiEnable(4, 0);
@@ -149,11 +146,7 @@ GUI_TEST(RadioGroup, EndsAtEveryOtherControl)
                 EXPECT_TRUE(isSet(1) && !isSet(2) && !isSet(3) && isSet(4));
             });
     }
-}
 
-// A line that is not made parts nothing.
-GUI_TEST(RadioGroup, DoesNotEndAtALineOfNoLength)
-{
     runDialog(
         [] {
             guiRadio(1, 0, 0, 40, "One");

@@ -30,7 +30,7 @@ void expectFromEveryControl(Shown dialog, KeySym symbol, const std::vector<Event
 
 }  // namespace
 
-GUI_TEST(ReturnKey, PressesTheDefaultButton)
+GUI_TEST(ReturnKey, PressesTheLastButtonMarkedAsDefault)
 {
     runDialog(
         [] {
@@ -44,10 +44,7 @@ GUI_TEST(ReturnKey, PressesTheDefaultButton)
             expectFromEveryControl(dialog, XK_Return, {toDialog(GUI_EVENT_COMMAND, 8)});
             dialog.key(XK_Tab);
         });
-}
 
-GUI_TEST(ReturnKey, PressesTheLastButtonMarkedAsDefault)
-{
     runDialog(
         [] {
             buildAround([] {
@@ -72,10 +69,13 @@ GUI_TEST(ReturnKey, PressesADefaultButtonOfNoWidth)
               });
 }
 
-GUI_TEST(ReturnKey, DoesNothingWithoutADefaultButton)
+GUI_TEST(ReturnKey, AndEscapeDoNothingWithoutTheirButtons)
 {
     runDialog([] { buildAround([] { guiButton(8, 3, 0, 40, "Eight", 0); }); },
               [](Shown dialog) { expectFromEveryControl(dialog, XK_Return, {}); });
+
+    runDialog([] { buildAround([] { guiButton(8, 3, 0, 40, "OK", 1); }); },
+              [](Shown dialog) { expectFromEveryControl(dialog, XK_Escape, {}); });
 }
 
 // The keyboard is on another button: that one is meant.
@@ -118,12 +118,6 @@ GUI_TEST(EscapeKey, PressesACancelButtonOfNoWidth)
                   EXPECT_FALSE(isShown(controlOf(0)));
                   expectFromEveryControl(dialog, XK_Escape, {toDialog(GUI_EVENT_COMMAND, 0)});
               });
-}
-
-GUI_TEST(EscapeKey, DoesNothingWithoutACancelButton)
-{
-    runDialog([] { buildAround([] { guiButton(8, 3, 0, 40, "OK", 1); }); },
-              [](Shown dialog) { expectFromEveryControl(dialog, XK_Escape, {}); });
 }
 
 // One invisible button may be both.

@@ -62,35 +62,25 @@ GUI_TEST(ControlText, EveryAmpersandIsRemoved)
     for (const auto& [text, label] : texts) expectLabelAsMade(text, label);
 }
 
-GUI_TEST(ControlText, Keeps255Bytes)
+GUI_TEST(ControlText, IsCutTo255BytesBeforeAmpersandsGo)
 {
     const std::string longText = std::string(254, 'x') + "yz" + std::string(44, 'w');
     for (const int length : {254, 255, 256, 300})
         expectLabelAsMade(longText.substr(0, static_cast<std::size_t>(length)),
                           longText.substr(0, std::min<std::size_t>(255, longText.size()))
                               .substr(0, static_cast<std::size_t>(length)));
-}
 
-// The text is cut before the ampersands go.
-GUI_TEST(ControlText, AmpersandsCountAmongThe255Bytes)
-{
     expectLabelAsMade(std::string(10, '&') + std::string(250, 'x'), std::string(245, 'x'));
     expectLabelAsMade(std::string(255, '&') + "behind", "");
     expectLabelAsMade(std::string(255, 'x') + "&y", std::string(255, 'x'));
 }
 
-GUI_TEST(ControlText, NullIsEmpty)
+GUI_TEST(ControlText, MayBeNullOrOfManyLinesOrOfAnyBytes)
 {
     expectLabel(nullptr, "");
-}
 
-GUI_TEST(ControlText, MayHaveSeveralLines)
-{
     expectLabel("one\n&two\n\nfour", "one\ntwo\n\nfour");
-}
 
-GUI_TEST(ControlText, KeepsTheBytesOfTheUpperHalf)
-{
     expectLabel(upperHalf(0xA0).c_str(), upperHalf(0xA0));
     expectLabelAsMade(upperHalf(0x80), upperHalf(0x80));
 }
@@ -105,17 +95,4 @@ GUI_TEST(ControlText, IsACopy)
     EXPECT_EQ(labelOf(lastControl()), "Before");
     EXPECT_STREQ(text, "Xefore");
     guiClose(0);
-}
-
-// The host's text may stand in memory that cannot be written.
-GUI_TEST(ControlText, OfTheHostIsNotChanged)
-{
-    const std::string text = "&Save && &Exit";
-    std::string copy = text;
-    for (const Labelled& kind : allLabelled()) {
-        ASSERT_EQ(guiDialog(""), 0);
-        kind.make(copy.data());
-        EXPECT_EQ(copy, text) << kind.name;
-        guiClose(0);
-    }
 }
