@@ -12,7 +12,7 @@ namespace {
 
 constexpr milliseconds kNothingComes{300};
 constexpr milliseconds kDelay{400};
-constexpr milliseconds kBehindTheDelay{800};
+constexpr milliseconds kBehindTheDelay{600};
 
 enum Id { kLabel = 1, kEdit, kButton, kCheck, kRadio, kImage, kLine, kOtherRadio };
 
@@ -147,6 +147,21 @@ GUI_STARTUP_TEST(Hover, EndsWhenTheControlIsOperated)
             robot.click(controlOf(id));
             EXPECT_GE(recorder.events().size(), 1U) << "the control's own event";
             EXPECT_TRUE(nothingComes(kBehindTheDelay));
+            leaveAllControls();
+        }
+    });
+}
+
+// While the user holds it, too, and in controls that raise nothing then.
+GUI_STARTUP_TEST(Hover, EndsWhenAMouseButtonIsPressed)
+{
+    runWithDelay("0.4", [this](Shown) {
+        for (const int id : {kLabel, kEdit, kButton, kCheck, kRadio, kImage}) {
+            SCOPED_TRACE(id);
+            enter(id);
+            robot.press();
+            EXPECT_TRUE(nothingComes(kBehindTheDelay));
+            robot.release();
             leaveAllControls();
         }
     });
