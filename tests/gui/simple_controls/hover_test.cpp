@@ -118,7 +118,7 @@ GUI_STARTUP_TEST(Hover, ComesOnceForEachEntering)
 
 GUI_STARTUP_TEST(Hover, OfTheControlsOnTheWayIsNotReported)
 {
-    runWithDelay("0.4", [this](Shown) {
+    runWithDelay("1.5", [this](Shown) {
         for (const int id : {kLabel, kEdit, kButton, kCheck, kRadio}) enter(id);
         enter(kImage);
         EXPECT_TRUE(app.waitForEvent(hover(kImage)));
