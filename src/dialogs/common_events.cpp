@@ -23,6 +23,11 @@ void left(Widget, XtPointer, XEvent*, Boolean*)
     hover::leave();
 }
 
+void mousePressed(Widget, XtPointer, XEvent*, Boolean*)
+{
+    hover::cancel();
+}
+
 void keyPressed(Widget, XtPointer data, XEvent* event, Boolean*)
 {
     hover::cancel();
@@ -52,6 +57,7 @@ void reportHover(Widget widget, Tag control)
 {
     XtAddEventHandler(widget, EnterWindowMask, False, entered, control.userData());
     XtAddEventHandler(widget, LeaveWindowMask, False, left, control.userData());
+    XtAddEventHandler(widget, ButtonPressMask, False, mousePressed, nullptr);
 }
 
 void reportKeys(Widget widget, Tag control)

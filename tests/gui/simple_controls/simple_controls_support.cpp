@@ -1,0 +1,96 @@
+#include "simple_controls_support.h"
+
+#include <Xm/ToggleB.h>
+
+#include <cstdint>
+
+namespace kite::testing {
+
+namespace {
+
+constexpr int kCode = 7;
+
+std::int32_t tagOf(Widget widget)
+{
+    return static_cast<std::int32_t>(
+        reinterpret_cast<std::intptr_t>(resource<XtPointer>(widget, XmNuserData)));
+}
+
+}  // namespace
+
+void setDialogFont(const std::string& font)
+{
+    HostDouble::instance().profile().setString("fnamm", font);
+}
+
+void runDialog(const std::function<void()>& build, const std::function<void(Shown)>& use)
+{
+    ASSERT_EQ(guiDialog("Controls"), 0);
+    build();
+    App::instance().whenShown("v_dlgbbr", [&](Shown dialog) {
+        EXPECT_TRUE(wm::waitForFocus(dialog.widget()));
+        use(dialog);
+        guiClose(kCode);
+    });
+    EXPECT_EQ(guiRunDialog(Recorder::dialogHandler()), kCode);
+}
+
+Widget newestBoard()
+{
+    const std::vector<Widget> boards = findWidgets("v_dlgbbr");
+    return boards.empty() ? nullptr : boards.back();
+}
+
+std::vector<Widget> controlsOfBoard()
+{
+    Widget const board = newestBoard();
+    return board ? childrenOf(board) : std::vector<Widget>{};
+}
+
+Widget lastControl()
+{
+    const std::vector<Widget> controls = controlsOfBoard();
+    return controls.empty() ? nullptr : controls.back();
+}
+
+Widget controlOf(int id)
+{
+    for (Widget const control : controlsOfBoard())
+        if (tagOf(control) >> 16 == id) return control;
+    ADD_FAILURE() << "There is no control with id " << id;
+    return nullptr;
+}
+
+Rect placeOf(Widget widget)
+{
+    return {resource<Position>(widget, XmNx), resource<Position>(widget, XmNy),
+            resource<Dimension>(widget, XmNwidth), resource<Dimension>(widget, XmNheight)};
+}
+
+bool hasFocus(int id)
+{
+    return XmGetFocusWidget(newestBoard()) == controlOf(id);
+}
+
+bool isToggled(int id)
+{
+    Widget const control = controlOf(id);
+    return control && XmToggleButtonGetState(control);
+}
+
+std::vector<Event> eventsDuring(const std::function<void()>& action)
+{
+    settle();
+    Recorder::instance().clear();
+    action();
+    settle();
+    return Recorder::instance().events();
+}
+
+std::vector<Event> without(int event, std::vector<Event> events)
+{
+    std::erase_if(events, [&](const Event& e) { return e.event == event; });
+    return events;
+}
+
+}  // namespace kite::testing
