@@ -3,11 +3,14 @@
 #include <Xm/Xm.h>
 #include <kitegui.h>
 
+#include "dialogs/lost_release.h"
 #include "dialogs/special_keys.h"
 #include "frame/dispatcher.h"
 #include "frame/focus_leave.h"
 #include "frame/hover.h"
 #include "toolkit/key_symbol.h"
+#include "toolkit/nested_loop.h"
+#include "toolkit/widget_ref.h"
 
 namespace kite {
 
@@ -38,11 +41,14 @@ void keyPressed(Widget, XtPointer data, XEvent* event, Boolean*)
 
 // The server's own focus events name the windows around the pointer; those that Xt sends on name the
 // control that gets the keys.
-void focusChanged(Widget, XtPointer, XEvent* event, Boolean*)
+void focusChanged(Widget control, XtPointer, XEvent* event, Boolean*)
 {
     if (event->type != FocusIn || !event->xfocus.send_event) return;
     hover::cancel();
+    const int loopsBefore = loopsBegun();
+    const WidgetRef gained{control};
     focusLeave::controlGainedFocus();
+    if (gained && loopsBegun() != loopsBefore) letGoLater(control);
 }
 
 void helpRequested(Widget, XtPointer data, XtPointer)

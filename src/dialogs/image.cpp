@@ -4,6 +4,7 @@
 #include <kitegui.h>
 
 #include "boxes/misuse.h"
+#include "dialogs/click_focus.h"
 #include "dialogs/common_events.h"
 #include "dialogs/control.h"
 #include "dialogs/placement.h"
@@ -30,9 +31,11 @@ int guiImage(int id, int row, int rows, int x, int width, int framed)
         XmNmarginRight, 0, XmNmarginTop, 0, XmNmarginBottom, 0, XmNrecomputeSize, False,
         XmNlabelType, XmPIXMAP, XmNlabelPixmap, XmUNSPECIFIED_PIXMAP, XmNselectPixmap,
         XmUNSPECIFIED_PIXMAP, XmNlabelInsensitivePixmap, XmUNSPECIFIED_PIXMAP,
-        XmNselectInsensitivePixmap, XmUNSPECIFIED_PIXMAP, XmNsensitive, True);
+        XmNselectInsensitivePixmap, XmUNSPECIFIED_PIXMAP, XmNsensitive, True, XmNtraversalOn,
+        False);
     if (!widget) return reportMisuse("Image: cannot create control %d", id);
 
     reportCommonEvents(widget, tag);
+    takeFocusByClick(widget);
     return building::append(id, ControlType::Image, widget);
 }

@@ -5,6 +5,7 @@ namespace kite {
 namespace {
 
 int running = 0;  // loops, one inside the other
+int begun = 0;
 
 }  // namespace
 
@@ -13,8 +14,14 @@ bool isProcessingEvents()
     return running > 0;
 }
 
+int loopsBegun()
+{
+    return begun;
+}
+
 ProcessingEvents::ProcessingEvents()
 {
+    ++begun;
     ++running;
 }
 

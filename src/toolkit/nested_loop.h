@@ -11,6 +11,9 @@ namespace kite {
 // True inside any of the loops below.
 bool isProcessingEvents();
 
+// How many of them have begun so far: a call during which the number grows has let the user do things.
+int loopsBegun();
+
 class ProcessingEvents {
 public:
     ProcessingEvents();
