@@ -36,8 +36,11 @@ GUI_STARTUP_TEST(OpenDialog, IsPossibleInTheFirstEventOfTheFrame)
         if (event.handler != Handler::Window) return;
         buildDialog();
         result = runWhileShown([](Shown) {}, 7);
+        guiClose(0);
     });
-    app.run([&] { EXPECT_EQ(result, 7); });
+    app.init();
+    EXPECT_EQ(guiStart(Recorder::windowHandler()), 0);
+    EXPECT_EQ(result, 7);
 }
 
 GUI_TEST(OpenDialog, ReturnsZeroAndShowsNothing)

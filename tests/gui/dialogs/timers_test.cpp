@@ -106,7 +106,8 @@ GUI_STARTUP_TEST(DialogHover, StopsWithTheDialog)
         runWhileShown([&](Shown) {
             robot.moveTo(control(1));
             EXPECT_TRUE(app.waitForEvent(toDialog(GUI_EVENT_HOVER, 1)));
-            robot.moveTo(control(1), Point{-1, -1});
+            const Rect button = rectOf(control(1));
+            robot.moveTo(Point{button.x - 3, button.y - 3});
             robot.moveTo(control(1));
             settle();
             recorder.clear();

@@ -9,6 +9,7 @@ namespace {
 // As the window manager has it, and as the board keeps it.
 void expectTitle(Shown dialog, const std::string& title)
 {
+    settle();
     EXPECT_EQ(dialog.title(), title);
     auto* const text = resource<XmString>(dialog.widget(), XmNdialogTitle);
     EXPECT_EQ(toString(text), title);
