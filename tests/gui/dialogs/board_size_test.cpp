@@ -84,36 +84,38 @@ GUI_STARTUP_TEST(BoardSize, GrowsWithTheFont)
     app.run([] { expectSizes(unitsOf(kLargeFont)); });
 }
 
-GUI_TEST(BoardSize, IsTheMarginForADialogWithoutControls)
+GUI_TEST(BoardSize, IsAtLeastTheMargin)
 {
-    const Units units = unitsOf(kUsualFont);
-    expectSize(
-        [] {},
-        [&] {
-            return Size{static_cast<int>(7 * units.across), static_cast<int>(7 * units.down)};
-        });
-}
+    // Is the margin for a dialog without controls.
+    {
+        const Units units = unitsOf(kUsualFont);
+        expectSize(
+            [] {},
+            [&] {
+                return Size{static_cast<int>(7 * units.across), static_cast<int>(7 * units.down)};
+            });
+    }
 
-// What stands above or left of the corner takes no room.
-GUI_TEST(BoardSize, IsTheMarginForControlsOutside)
-{
-    const Units units = unitsOf(kUsualFont);
-    expectSize(
-        [] { guiLabel(1, -10, -300, 20, "Outside"); },
-        [&] {
-            return Size{static_cast<int>(7 * units.across), static_cast<int>(7 * units.down)};
-        });
-}
+    // What stands above or left of the corner takes no room.
+    {
+        const Units units = unitsOf(kUsualFont);
+        expectSize(
+            [] { guiLabel(1, -10, -300, 20, "Outside"); },
+            [&] {
+                return Size{static_cast<int>(7 * units.across), static_cast<int>(7 * units.down)};
+            });
+    }
 
-GUI_TEST(BoardSize, CountsHiddenButtons)
-{
-    const Units units = unitsOf(kUsualFont);
-    expectSize([] { guiButton(1, 10, 90, 0, "", 1); },
-               [&] {
-                   return Size{static_cast<int>(97 * units.across) - 1 + 2 +
-                                   static_cast<int>(7 * units.across),
-                               static_cast<int>((10 * 14 + 7) * units.down) - 1 +
-                                   static_cast<int>(12 * units.down) + 2 +
-                                   static_cast<int>(7 * units.down)};
-               });
+    // Counts hidden buttons.
+    {
+        const Units units = unitsOf(kUsualFont);
+        expectSize([] { guiButton(1, 10, 90, 0, "", 1); },
+                   [&] {
+                       return Size{static_cast<int>(97 * units.across) - 1 + 2 +
+                                       static_cast<int>(7 * units.across),
+                                   static_cast<int>((10 * 14 + 7) * units.down) - 1 +
+                                       static_cast<int>(12 * units.down) + 2 +
+                                       static_cast<int>(7 * units.down)};
+                   });
+    }
 }

@@ -73,15 +73,14 @@ GUI_TEST(DialogCloseRequest, GoesToTheHostCallbackWithoutHandler)
     EXPECT_EQ(guiRunDialog(nullptr), 1);
 }
 
-GUI_TEST(DialogCloseRequest, OfTheFrameBehindRingsTheBell)
+GUI_TEST(DialogCloseRequest, BehindTheTopWindowRingsTheBell)
 {
+    // Of the frame behind rings the bell.
     buildDialog();
     EXPECT_EQ(runWhileShown([&](Shown dialog) { expectRefused(app.shell(), dialog.widget()); }, 3),
               3);
-}
 
-GUI_TEST(DialogCloseRequest, OfTheOuterDialogRingsTheBell)
-{
+    // Of the outer dialog rings the bell.
     buildDialog("Outer");
     EXPECT_EQ(runWhileShown(
                   [&](Shown outer) {
@@ -99,10 +98,8 @@ GUI_TEST(DialogCloseRequest, OfTheOuterDialogRingsTheBell)
                   },
                   3),
               3);
-}
 
-GUI_TEST(DialogCloseRequest, BehindABoxRingsTheBell)
-{
+    // Behind a box rings the bell.
     buildDialog();
     runWhileShown([&](Shown dialog) {
         app.whenShown("v_askbox", [&](Shown box) {

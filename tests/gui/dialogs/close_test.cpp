@@ -18,9 +18,9 @@ GUI_STARTUP_TEST(CloseDialog, WithoutAnyWindowNothingHappens)
     EXPECT_FALSE(findWidget("v_errorbox"));
 }
 
-// Whatever the code: nobody gets it.
-GUI_TEST(CloseDialog, AbandonsTheOneUnderConstruction)
+GUI_TEST(CloseDialog, AbandonsTheOneThatDoesNotRunYet)
 {
+    // Whatever the code: nobody gets it.
     for (const int code : {0, 5, -3}) {
         buildDialog();
         recorder.clear();
@@ -31,10 +31,8 @@ GUI_TEST(CloseDialog, AbandonsTheOneUnderConstruction)
         EXPECT_MISUSE(guiRunDialog(nullptr), "RunDialog: no prepared dialog", -1);
         EXPECT_THAT(recorder.events(), IsEmpty());
     }
-}
 
-GUI_TEST(CloseDialog, AbandonsTheInnerOneBeforeItClosesTheOuterOne)
-{
+    // Abandons the inner one before it closes the outer one.
     buildDialog("Outer");
     EXPECT_EQ(runWhileShown(
                   [](Shown outer) {
@@ -45,10 +43,8 @@ GUI_TEST(CloseDialog, AbandonsTheInnerOneBeforeItClosesTheOuterOne)
                   },
                   2),
               2);
-}
 
-GUI_TEST(CloseDialog, AbandonsARequestedOne)
-{
+    // Abandons a requested one.
     recorder.clear();
     recorder.onEvent(GUI_EVENT_COMMAND, 1, [] {
         buildDialog("Requested");
@@ -63,22 +59,35 @@ GUI_TEST(CloseDialog, AbandonsARequestedOne)
     EXPECT_EQ(guiGetTopWnd(), app.find("v_mainwnd"));
 }
 
-GUI_TEST(CloseDialog, LeavesTheRunningOneAtOnce)
+GUI_TEST(CloseDialog, GivesTheWindowBehindBack)
 {
-    bool isGone = false;
-    recorder.onEvent(GUI_EVENT_COMMAND, 1, [&] {
-        Widget const dialog = board();
-        guiClose(4);
-        EXPECT_EQ(guiGetTopWnd(), app.find("v_mainwnd"));
-        EXPECT_FALSE(XtIsManaged(dialog));
-        raiseEvent(GUI_EVENT_COMMAND, 2);
-        isGone = true;
+    // Leaves the running one at once.
+    {
+        bool isGone = false;
+        recorder.onEvent(GUI_EVENT_COMMAND, 1, [&] {
+            Widget const dialog = board();
+            guiClose(4);
+            EXPECT_EQ(guiGetTopWnd(), app.find("v_mainwnd"));
+            EXPECT_FALSE(XtIsManaged(dialog));
+            raiseEvent(GUI_EVENT_COMMAND, 2);
+            isGone = true;
+        });
+        buildDialog();
+        app.whenShown("v_dlgbbr", [](Shown dialog) { dialog.click("OK"); });
+        EXPECT_EQ(guiRunDialog(Recorder::dialogHandler()), 4);
+        EXPECT_TRUE(isGone);
+        EXPECT_EQ(recorder.count(toWindow(GUI_EVENT_COMMAND, 2)), 1);
+    }
+
+    recorder.forgetReactions();
+    // Of a nested one gives the keyboard back.
+    buildDialog("Outer");
+    runWhileShown([&](Shown outer) {
+        buildDialog("Inner");
+        runWhileShown([](Shown) {});
+        outer.key(XK_space);
+        EXPECT_TRUE(app.waitForEvent(toDialog(GUI_EVENT_COMMAND, 1)));
     });
-    buildDialog();
-    app.whenShown("v_dlgbbr", [](Shown dialog) { dialog.click("OK"); });
-    EXPECT_EQ(guiRunDialog(Recorder::dialogHandler()), 4);
-    EXPECT_TRUE(isGone);
-    EXPECT_EQ(recorder.count(toWindow(GUI_EVENT_COMMAND, 2)), 1);
 }
 
 // The second call finds the frame.
@@ -115,13 +124,15 @@ GUI_TEST(CloseDialog, OfTheFrameComesAfterTheOneUnderConstruction)
     EXPECT_EQ(guiGetTopWnd(), nullptr);
 }
 
-GUI_TEST(CloseDialog, OfANestedOneGivesTheKeyboardBack)
+// It is not the box that is closed.
+GUI_TEST(CloseDialog, AbandonsTheOneUnderConstructionBehindABox)
 {
-    buildDialog("Outer");
-    runWhileShown([&](Shown outer) {
-        buildDialog("Inner");
-        runWhileShown([](Shown) {});
-        outer.key(XK_space);
-        EXPECT_TRUE(app.waitForEvent(toDialog(GUI_EVENT_COMMAND, 1)));
+    buildDialog();
+    app.whenShown("v_askbox", [](Shown box) {
+        guiClose(0);
+        EXPECT_FALSE(board());
+        EXPECT_EQ(guiGetTopWnd(), box.widget());
+        box.key(XK_Return);
     });
+    EXPECT_EQ(guiYesNoBox("Still here?"), 1);
 }

@@ -44,8 +44,9 @@ GUI_TEST(ControlLimits, RefusesTheNextOfEveryKind)
 {
     fill();
     for (const ControlKind& kind : allControls())
-        for (const int id : {kind.lowestId, 7, -2, 32768})
-            EXPECT_MISUSE(kind.make(id, 0), kind.name + ": too many dialog items");
+        EXPECT_MISUSE(kind.make(kind.lowestId, 0), kind.name + ": too many dialog items");
+    for (const int id : {7, -2, 32768})
+        EXPECT_MISUSE(guiLine(id, 0, 1, 0, 9), "Line: too many dialog items");
     EXPECT_EQ(controlCount(), kMost);
     guiClose(0);
     EXPECT_MISUSE(guiLabel(1, 0, 0, 9, ""), "Label: no dialog is built at the moment");

@@ -38,18 +38,15 @@ GUI_STARTUP_TEST(CreationCheck, FailsSilentlyWithoutAnyWindow)
 
 GUI_TEST(CreationCheck, NeedsADialogUnderConstruction)
 {
+    // Needs a dialog under construction.
     expectNoDialogBuilt();
-}
 
-GUI_TEST(CreationCheck, FailsAfterAnAbandonedDialog)
-{
+    // Fails after an abandoned dialog.
     buildDialog();
     guiClose(0);
     EXPECT_MISUSE(guiLabel(1, 0, 0, 10, "Late"), "Label: no dialog is built at the moment");
-}
 
-GUI_TEST(CreationCheck, FailsWhenTheDialogIsToBeStarted)
-{
+    // Fails when the dialog is to be started.
     recorder.onEvent(GUI_EVENT_COMMAND, 1, [&] {
         ASSERT_EQ(guiDialog("Dialog"), 0);
         guiStartDialog();
@@ -59,10 +56,9 @@ GUI_TEST(CreationCheck, FailsWhenTheDialogIsToBeStarted)
     });
     raiseEvent(GUI_EVENT_COMMAND, 1);
     EXPECT_EQ(recorder.count(toWindow(GUI_EVENT_COMMAND, 1)), 1);
-}
 
-GUI_TEST(CreationCheck, FailsWhileTheDialogRuns)
-{
+    recorder.forgetReactions();
+    // Fails while the dialog runs.
     recorder.onEvent(GUI_EVENT_INIT, [&] {
         EXPECT_MISUSE(guiLabel(-1, 0, 0, 10, "Late"), "Label: no dialog is built at the moment");
     });
@@ -110,6 +106,7 @@ GUI_TEST(CreationCheck, AcceptsAnyNumberOfAnonymousControls)
 
 GUI_TEST(CreationCheck, RefusesDuplicateIds)
 {
+    // Refuses duplicate ids.
     for (std::size_t i = 0; i < allControls().size(); ++i) {
         const ControlKind& first = allControls()[i];
         const ControlKind& second = allControls()[(i + 1) % allControls().size()];
@@ -126,10 +123,8 @@ GUI_TEST(CreationCheck, RefusesDuplicateIds)
         EXPECT_EQ(tagOf(control(id)), tagFor(id, first.type));
         guiClose(0);
     }
-}
 
-GUI_TEST(CreationCheck, RefusesASecondCancelButton)
-{
+    // Refuses a second cancel button.
     ASSERT_EQ(guiDialog("Ids"), 0);
     guiButton(GUI_CANCEL_BUTTON, 0, 0, 20, "Cancel", 0);
     EXPECT_MISUSE(guiButton(0, 1, 0, 20, "Cancel", 0), "Button: duplicate control id 0");

@@ -53,12 +53,41 @@ GUI_TEST(DialogFocus, IsFirstOnTheFirstControlForTheKeyboard)
     }
 }
 
-GUI_TEST(DialogFocus, SkipsInsensitiveControls)
+GUI_TEST(DialogFocus, IsOnTheFirstSensitiveControlWithoutAWish)
 {
+    // Skips insensitive controls.
     buildThreeButtons();
     XtSetSensitive(control(1), False);
     EXPECT_EQ(idReachedByKeyboard(), 2);
     EXPECT_EQ(recorder.count(toDialog(GUI_EVENT_COMMAND, 2)), 1);
+
+    // Failed wishes are none.
+    recorder.onEvent(GUI_EVENT_INIT, [] {
+        EXPECT_MISUSE(guiSetFocus(99), "SetFocus: no control with id 99 in the dialog");
+        EXPECT_MISUSE(guiSetFocus(-1), "SetFocus: wrong id -1");
+    });
+    buildThreeButtons();
+    runWhileShown([](Shown dialog) {
+        EXPECT_EQ(resource<Widget>(dialog.widget(), XmNinitialFocus), control(1));
+        EXPECT_TRUE(hasFocus(1));
+    });
+
+    recorder.forgetReactions();
+    // A wish from inside an inner dialog's life is the inner dialog's.
+    recorder.onEvent(GUI_EVENT_INIT, [&](const Event& event) {
+        if (event.handler == Handler::InnerDialog) {
+            guiSetFocus(3);
+            guiClose(0);
+            return;
+        }
+        buildThreeButtons();
+        guiRunDialog(Recorder::innerDialogHandler());
+    });
+    buildThreeButtons();
+    runWhileShown([](Shown dialog) {
+        EXPECT_EQ(resource<Widget>(dialog.widget(), XmNinitialFocus), control(1));
+        EXPECT_TRUE(hasFocus(1));
+    });
 }
 
 GUI_TEST(DialogFocus, IsOnTheControlThatTheFirstEventAsksFor)
@@ -78,38 +107,6 @@ GUI_TEST(DialogFocus, IsOnTheControlThatTheFirstEventAsksFor)
     EXPECT_EQ(idReachedByKeyboard(), 1);
 }
 
-GUI_TEST(DialogFocus, FailedWishesAreNone)
-{
-    recorder.onEvent(GUI_EVENT_INIT, [] {
-        EXPECT_MISUSE(guiSetFocus(99), "SetFocus: no control with id 99 in the dialog");
-        EXPECT_MISUSE(guiSetFocus(-1), "SetFocus: wrong id -1");
-    });
-    buildThreeButtons();
-    runWhileShown([](Shown dialog) {
-        EXPECT_EQ(resource<Widget>(dialog.widget(), XmNinitialFocus), control(1));
-        EXPECT_TRUE(hasFocus(1));
-    });
-}
-
-// A wish from inside an inner dialog's life is the inner dialog's.
-GUI_TEST(DialogFocus, WishesBelongToTheInnermostDialog)
-{
-    recorder.onEvent(GUI_EVENT_INIT, [&](const Event& event) {
-        if (event.handler == Handler::InnerDialog) {
-            guiSetFocus(3);
-            guiClose(0);
-            return;
-        }
-        buildThreeButtons();
-        guiRunDialog(Recorder::innerDialogHandler());
-    });
-    buildThreeButtons();
-    runWhileShown([](Shown dialog) {
-        EXPECT_EQ(resource<Widget>(dialog.widget(), XmNinitialFocus), control(1));
-        EXPECT_TRUE(hasFocus(1));
-    });
-}
-
 GUI_TEST(DialogFocus, MovesWhileTheDialogRuns)
 {
     buildThreeButtons();
@@ -125,21 +122,42 @@ GUI_TEST(DialogFocus, MovesWhileTheDialogRuns)
     });
 }
 
-GUI_TEST(GetFocus, IsNoneWithoutADialog)
+GUI_TEST(GetFocus, IsNoneOfWhatHasNoId)
 {
-    EXPECT_EQ(guiGetFocus(), -1);
-    buildDialog();
-    EXPECT_EQ(guiGetFocus(), -1);  // it does not run yet
-    guiClose(0);
-    Widget const main = guiGetTopWnd();
-    guiSetTopWnd(nullptr);
-    EXPECT_EQ(guiGetFocus(), -1);
-    guiSetTopWnd(main);
-    app.whenShown("v_infobox", [](Shown box) {
+    // Is none without a dialog.
+    {
         EXPECT_EQ(guiGetFocus(), -1);
-        box.key(XK_Return);
+        buildDialog();
+        EXPECT_EQ(guiGetFocus(), -1);  // it does not run yet
+        guiClose(0);
+        Widget const main = guiGetTopWnd();
+        guiSetTopWnd(nullptr);
+        EXPECT_EQ(guiGetFocus(), -1);
+        guiSetTopWnd(main);
+        app.whenShown("v_infobox", [](Shown box) {
+            EXPECT_EQ(guiGetFocus(), -1);
+            box.key(XK_Return);
+        });
+        guiInfoBox("Boxes have no controls");
+    }
+
+    // Cannot tell the cancel button.
+    ASSERT_EQ(guiDialog("Focus"), 0);
+    guiButton(GUI_CANCEL_BUTTON, 0, 0, 40, "Cancel", 0);
+    guiButton(1, 1, 0, 40, "OK", 0);
+    runWhileShown([](Shown dialog) {
+        EXPECT_TRUE(wm::waitForFocus(dialog.widget()));
+        EXPECT_TRUE(hasFocus(0));
+        EXPECT_EQ(guiGetFocus(), -1);
     });
-    guiInfoBox("Boxes have no controls");
+
+    // Is none when no control takes the keyboard.
+    ASSERT_EQ(guiDialog("Focus"), 0);
+    guiLabel(5, 0, 0, 40, "Label");
+    runWhileShown([](Shown dialog) {
+        EXPECT_TRUE(wm::waitForFocus(dialog.widget()));
+        EXPECT_EQ(guiGetFocus(), -1);
+    });
 }
 
 GUI_STARTUP_TEST(GetFocus, IsNoneBeforeTheStart)
@@ -149,8 +167,9 @@ GUI_STARTUP_TEST(GetFocus, IsNoneBeforeTheStart)
     EXPECT_EQ(guiGetFocus(), -1);
 }
 
-GUI_TEST(GetFocus, IsTheIdOfEachControlThatHasIt)
+GUI_TEST(GetFocus, IsThatOfTheControlThatHasTheKeyboard)
 {
+    // Is the id of each control that has it.
     ASSERT_EQ(guiDialog("Focus"), 0);
     guiEdit(1, 0, 0, 40, 0, 0);
     guiButton(32767, 1, 0, 40, "Largest", 0);
@@ -164,33 +183,8 @@ GUI_TEST(GetFocus, IsTheIdOfEachControlThatHasIt)
             EXPECT_EQ(guiGetFocus(), id);
         }
     });
-}
 
-GUI_TEST(GetFocus, CannotTellTheCancelButton)
-{
-    ASSERT_EQ(guiDialog("Focus"), 0);
-    guiButton(GUI_CANCEL_BUTTON, 0, 0, 40, "Cancel", 0);
-    guiButton(1, 1, 0, 40, "OK", 0);
-    runWhileShown([](Shown dialog) {
-        EXPECT_TRUE(wm::waitForFocus(dialog.widget()));
-        EXPECT_TRUE(hasFocus(0));
-        EXPECT_EQ(guiGetFocus(), -1);
-    });
-}
-
-GUI_TEST(GetFocus, IsNoneWhenNoControlTakesTheKeyboard)
-{
-    ASSERT_EQ(guiDialog("Focus"), 0);
-    guiLabel(5, 0, 0, 40, "Label");
-    runWhileShown([](Shown dialog) {
-        EXPECT_TRUE(wm::waitForFocus(dialog.widget()));
-        EXPECT_EQ(guiGetFocus(), -1);
-    });
-}
-
-// Of the innermost one alone.
-GUI_TEST(GetFocus, IsThatOfTheTopWindow)
-{
+    // Of the innermost one alone.
     buildThreeButtons();
     runWhileShown([](Shown outer) {
         EXPECT_TRUE(wm::waitForFocus(outer.widget()));

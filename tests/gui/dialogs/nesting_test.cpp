@@ -129,8 +129,9 @@ GUI_TEST(DialogNesting, ClosingTwiceClosesTheOuterOneAsWell)
     EXPECT_EQ(inner, 2);
 }
 
-GUI_TEST(DialogNesting, BoxesBelongToTheDialog)
+GUI_TEST(DialogNesting, BoxesAndDialogsMayBeMixed)
 {
+    // Boxes belong to the dialog.
     buildDialog();
     runWhileShown([&](Shown dialog) {
         app.whenShown("v_askbox", [&](Shown box) {
@@ -143,10 +144,8 @@ GUI_TEST(DialogNesting, BoxesBelongToTheDialog)
         EXPECT_TRUE(isShown(dialog.widget()));
         EXPECT_EQ(dialog.title(), "Dialog");
     });
-}
 
-GUI_TEST(DialogNesting, BoxInTheFirstEventComesBeforeTheDialog)
-{
+    // Box in the first event comes before the dialog.
     recorder.onEvent(GUI_EVENT_INIT, [&] {
         app.whenShown("v_infobox", [](Shown box) {
             EXPECT_FALSE(isShown(board()));
@@ -157,10 +156,9 @@ GUI_TEST(DialogNesting, BoxInTheFirstEventComesBeforeTheDialog)
     });
     buildDialog();
     EXPECT_EQ(runWhileShown([](Shown) {}, 5), 5);
-}
 
-GUI_TEST(DialogNesting, DialogInABoxBelongsToIt)
-{
+    recorder.forgetReactions();
+    // Dialog in a box belongs to it.
     app.whenShown("v_askbox", [&](Shown box) {
         buildDialog();
         EXPECT_EQ(runWhileShown(

@@ -114,18 +114,20 @@ GUI_TEST(OpenDialog, WantsAStartedSystemBeforeAllElse)
     EXPECT_FALSE(board());
 }
 
-GUI_TEST(OpenDialog, FailsSilentlyWithoutATopWindow)
+GUI_TEST(OpenDialog, NothingIsPreparedByARefusedCall)
 {
-    Widget const main = guiGetTopWnd();
-    guiSetTopWnd(nullptr);
-    EXPECT_EQ(guiDialog("Nowhere"), -1);
-    guiSetTopWnd(main);
-    EXPECT_FALSE(board());
-    EXPECT_EQ(guiDialog("Here"), 0);
-}
+    // Fails silently without a top window.
+    {
+        Widget const main = guiGetTopWnd();
+        guiSetTopWnd(nullptr);
+        EXPECT_EQ(guiDialog("Nowhere"), -1);
+        guiSetTopWnd(main);
+        EXPECT_FALSE(board());
+        EXPECT_EQ(guiDialog("Here"), 0);
+        guiClose(0);
+    }
 
-GUI_TEST(OpenDialog, CallsWithoutAPreparedDialogAreReported)
-{
+    // Calls without a prepared dialog are reported.
     EXPECT_MISUSE(guiStartDialog(), "StartDialog: no prepared dialog", -1);
     EXPECT_MISUSE(guiRunDialog(Recorder::dialogHandler()), "RunDialog: no prepared dialog", -1);
     EXPECT_MISUSE(guiRunDialog(nullptr), "RunDialog: no prepared dialog", -1);

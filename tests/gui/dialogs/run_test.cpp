@@ -87,12 +87,18 @@ GUI_TEST(RunDialog, ClosedInItsFirstEventIsNeverShown)
 
 GUI_TEST(RunDialog, ReturnsTheCodeOfClose)
 {
+    // Returns the code of close.
     for (const int code : {0, 1, 2, 255, 256, 32768, INT_MAX}) EXPECT_EQ(resultOf(code), code);
     recorder.forgetReactions();
     buildDialog();
     EXPECT_EQ(runWhileShown([](Shown) {}, INT_MAX), INT_MAX);
     buildDialog();
     EXPECT_EQ(runWhileShown([](Shown) {}, 0), 0);
+
+    // The result belongs to one run.
+    EXPECT_EQ(resultOf(4), 4);
+    EXPECT_EQ(resultOf(0), 0);
+    EXPECT_EQ(resultOf(3), 3);
 }
 
 GUI_TEST(RunDialog, NegativeCodesAreReportedAndBecomeZero)
@@ -106,14 +112,6 @@ GUI_TEST(RunDialog, NegativeCodesAreReportedAndBecomeZero)
         EXPECT_MISUSE(runWhileShown([](Shown) {}, code), message, 0);
         EXPECT_FALSE(board());
     }
-}
-
-// The result belongs to one run.
-GUI_TEST(RunDialog, ResultIsThatOfTheLatestClose)
-{
-    EXPECT_EQ(resultOf(4), 4);
-    EXPECT_EQ(resultOf(0), 0);
-    EXPECT_EQ(resultOf(3), 3);
 }
 
 GUI_TEST(RunDialog, AnotherCanBeBuiltAtOnce)
@@ -134,9 +132,22 @@ GUI_TEST(RunDialog, AnotherCanBeBuiltAtOnce)
               2);
 }
 
-// The default and cancel buttons and the focus are those of one dialog.
-GUI_TEST(RunDialog, NothingOfOneDialogIsLeftForTheNext)
+GUI_TEST(RunDialog, ButtonsAreThoseOfOneDialog)
 {
+    // Default button takes the shadow of all buttons.
+    ASSERT_EQ(guiDialog("Buttons"), 0);
+    guiButton(1, 0, 0, 40, "One", 1);
+    guiButton(2, 1, 0, 40, "Two", 0);
+    guiButton(3, 2, 0, 40, "Three", 1);
+    guiButton(0, 3, 0, 40, "Cancel", 0);
+    runWhileShown([](Shown dialog) {
+        EXPECT_EQ(resource<Widget>(dialog.widget(), XmNdefaultButton), control(3));
+        EXPECT_EQ(resource<Widget>(dialog.widget(), XmNcancelButton), control(0));
+        for (int id = 0; id <= 3; ++id)
+            EXPECT_EQ(resource<Dimension>(control(id), XmNdefaultButtonShadowThickness), 0) << id;
+    });
+
+    // The default and cancel buttons and the focus are those of one dialog.
     ASSERT_EQ(guiDialog("First"), 0);
     guiButton(GUI_CANCEL_BUTTON, 0, 0, 40, "Cancel", 1);
     runWhileShown([](Shown dialog) {
@@ -149,21 +160,6 @@ GUI_TEST(RunDialog, NothingOfOneDialogIsLeftForTheNext)
         EXPECT_EQ(resource<Widget>(dialog.widget(), XmNdefaultButton), nullptr);
         EXPECT_EQ(resource<Widget>(dialog.widget(), XmNcancelButton), nullptr);
         EXPECT_EQ(resource<Widget>(dialog.widget(), XmNinitialFocus), nullptr);
-    });
-}
-
-GUI_TEST(RunDialog, DefaultButtonTakesTheShadowOfAllButtons)
-{
-    ASSERT_EQ(guiDialog("Buttons"), 0);
-    guiButton(1, 0, 0, 40, "One", 1);
-    guiButton(2, 1, 0, 40, "Two", 0);
-    guiButton(3, 2, 0, 40, "Three", 1);
-    guiButton(0, 3, 0, 40, "Cancel", 0);
-    runWhileShown([](Shown dialog) {
-        EXPECT_EQ(resource<Widget>(dialog.widget(), XmNdefaultButton), control(3));
-        EXPECT_EQ(resource<Widget>(dialog.widget(), XmNcancelButton), control(0));
-        for (int id = 0; id <= 3; ++id)
-            EXPECT_EQ(resource<Dimension>(control(id), XmNdefaultButtonShadowThickness), 0) << id;
     });
 }
 
@@ -195,6 +191,20 @@ GUI_TEST(RunDialog, DestroyedControlsAreNoPartOfIt)
                   EXPECT_EQ(resource<Widget>(dialog.widget(), XmNdefaultButton), nullptr);
                   EXPECT_EQ(resource<Widget>(dialog.widget(), XmNcancelButton), nullptr);
                   EXPECT_EQ(resource<Widget>(dialog.widget(), XmNinitialFocus), control(3));
+              }),
+              1);
+}
+
+GUI_TEST(RunDialog, NullTextsAreEmpty)
+{
+    ASSERT_EQ(guiDialog(nullptr), 0);
+    guiLabel(1, 0, 0, 20, nullptr);
+    guiButton(2, 1, 0, 20, nullptr, 0);
+    guiCheck(3, 2, 0, 20, nullptr);
+    guiRadio(4, 3, 0, 20, nullptr);
+    EXPECT_EQ(runWhileShown([](Shown dialog) {
+                  for (int id = 1; id <= 4; ++id) EXPECT_EQ(labelOf(control(id)), "") << id;
+                  EXPECT_EQ(dialog.title(), "");
               }),
               1);
 }

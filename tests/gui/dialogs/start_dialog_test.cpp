@@ -84,83 +84,76 @@ GUI_TEST(StartDialog, TakesTheKeyboardAndTheMouse)
     EXPECT_TRUE(pumpUntil([] { return !board(); }));
 }
 
-// No code is negative: nothing is reported to the host.
-GUI_TEST(StartDialog, NegativeCodeIsReportedByABoxAlone)
+GUI_TEST(StartDialog, MayBeAskedForInAnyDialog)
 {
-    recorder.clear();
-    recorder.onEvent(GUI_EVENT_COMMAND, kStart, [] { request(); });
-    app.whenShown("v_dlgbbr", [](Shown) {
-        EXPECT_MISUSE(guiClose(-3), "Close: negative return code - 0 is used");
-    });
-    raiseEvent(GUI_EVENT_COMMAND, kStart);
-    EXPECT_EQ(recorder.count(toHost(GUI_EVENT_INIT, -1)), 0);
-    EXPECT_EQ(guiGetTopWnd(), app.find("v_mainwnd"));
-}
-
-GUI_TEST(StartDialog, MayStartTheNextFromItsOwnHandlers)
-{
-    std::vector<std::string> titles;
-    recorder.onEvent(GUI_EVENT_COMMAND, kStart, [] { request("First"); });
-    recorder.onEvent(GUI_EVENT_COMMAND, 5, [] { request("Second"); });
-    app.whenShown("v_dlgbbr", [&](Shown first) {
-        titles.push_back(first.title());
-        app.whenShown("v_dlgbbr", [&](Shown second) {
-            titles.push_back(second.title());
-            EXPECT_EQ(XtParent(second.shell()), first.widget());
-            guiClose(2);
+    // May start the next from its own handlers.
+    {
+        std::vector<std::string> titles;
+        recorder.onEvent(GUI_EVENT_COMMAND, kStart, [] { request("First"); });
+        recorder.onEvent(GUI_EVENT_COMMAND, 5, [] { request("Second"); });
+        app.whenShown("v_dlgbbr", [&](Shown first) {
+            titles.push_back(first.title());
+            app.whenShown("v_dlgbbr", [&](Shown second) {
+                titles.push_back(second.title());
+                EXPECT_EQ(XtParent(second.shell()), first.widget());
+                guiClose(2);
+            });
+            raiseEvent(GUI_EVENT_COMMAND, 5);
+            EXPECT_EQ(guiGetTopWnd(), first.widget());
+            guiClose(1);
         });
-        raiseEvent(GUI_EVENT_COMMAND, 5);
-        EXPECT_EQ(guiGetTopWnd(), first.widget());
-        guiClose(1);
-    });
-    raiseEvent(GUI_EVENT_COMMAND, kStart);
-    EXPECT_THAT(titles, ElementsAre("First", "Second"));
-}
+        raiseEvent(GUI_EVENT_COMMAND, kStart);
+        EXPECT_THAT(titles, ElementsAre("First", "Second"));
+    }
 
-GUI_TEST(StartDialog, InTheFirstEventRunsBeforeTheDialogIsShown)
-{
-    std::vector<std::string> titles;
-    recorder.onEvent(GUI_EVENT_INIT, [](const Event& event) {
-        if (event.handler == Handler::Dialog) request("Inner");
-    });
-    for (int i = 0; i < 2; ++i)
-        app.whenShown("v_dlgbbr", [&](Shown dialog) {
-            titles.push_back(dialog.title());
-            guiClose(3);
+    recorder.forgetReactions();
+    // In the first event runs before the dialog is shown.
+    {
+        std::vector<std::string> titles;
+        recorder.onEvent(GUI_EVENT_INIT, [](const Event& event) {
+            if (event.handler == Handler::Dialog) request("Inner");
         });
-    buildDialog("Outer");
-    EXPECT_EQ(guiRunDialog(Recorder::dialogHandler()), 3);
-    EXPECT_THAT(titles, ElementsAre("Inner", "Outer"));
+        for (int i = 0; i < 2; ++i)
+            app.whenShown("v_dlgbbr", [&](Shown dialog) {
+                titles.push_back(dialog.title());
+                guiClose(3);
+            });
+        buildDialog("Outer");
+        EXPECT_EQ(guiRunDialog(Recorder::dialogHandler()), 3);
+        EXPECT_THAT(titles, ElementsAre("Inner", "Outer"));
+    }
 }
 
-// The box is the handler's own: what it has asked for waits for its end.
-GUI_TEST(StartDialog, WaitsForAHandlerThatWaitsInABox)
+GUI_TEST(StartDialog, KnowsWhichHandlerAskedForIt)
 {
+    // The box is the handler's own: what it has asked for waits for its end.
+    {
+        recorder.clear();
+        recorder.onEvent(GUI_EVENT_COMMAND, kStart, [&] {
+            request();
+            guiTimer(100);
+            guiInfoBox("Not yet");
+            guiTimer(0);
+            EXPECT_EQ(recorder.count(GUI_EVENT_INIT), 0);
+        });
+        app.whenShown("v_infobox", [&](Shown box) {
+            EXPECT_TRUE(pumpUntil([&] { return recorder.count(GUI_EVENT_TIMER) >= 2; }));
+            EXPECT_FALSE(isShown(board()));
+            EXPECT_EQ(guiGetTopWnd(), box.widget());
+            box.key(XK_Return);
+        });
+        bool wasShown = false;
+        app.whenShown("v_dlgbbr", [&](Shown) {
+            wasShown = true;
+            guiClose(1);
+        });
+        raiseEvent(GUI_EVENT_COMMAND, kStart);
+        EXPECT_TRUE(wasShown);
+    }
+
+    recorder.forgetReactions();
     recorder.clear();
-    recorder.onEvent(GUI_EVENT_COMMAND, kStart, [&] {
-        request();
-        guiTimer(100);
-        guiInfoBox("Not yet");
-        guiTimer(0);
-        EXPECT_EQ(recorder.count(GUI_EVENT_INIT), 0);
-    });
-    app.whenShown("v_infobox", [&](Shown box) {
-        EXPECT_TRUE(pumpUntil([&] { return recorder.count(GUI_EVENT_TIMER) >= 2; }));
-        EXPECT_FALSE(isShown(board()));
-        EXPECT_EQ(guiGetTopWnd(), box.widget());
-        box.key(XK_Return);
-    });
-    bool wasShown = false;
-    app.whenShown("v_dlgbbr", [&](Shown) {
-        wasShown = true;
-        guiClose(1);
-    });
-    raiseEvent(GUI_EVENT_COMMAND, kStart);
-    EXPECT_TRUE(wasShown);
-}
-
-GUI_TEST(StartDialog, RunsInsideTheBoxWhenAHandlerThereAsksForIt)
-{
+    // Runs inside the box when a handler there asks for it.
     recorder.onEvent(GUI_EVENT_TIMER, [] {
         guiTimer(0);
         request();
@@ -178,7 +171,8 @@ GUI_TEST(StartDialog, RunsInsideTheBoxWhenAHandlerThereAsksForIt)
     guiInfoBox("Waiting");
 }
 
-// Both asked for in one handler: the dialog is first, the plug-in waits for the next return.
+// Both asked for in one handler: the dialog is first, and its first event is the one that the plug-in
+// waits for.
 GUI_TEST(StartDialog, ComesBeforeAPlugin)
 {
     recorder.clear();
@@ -186,20 +180,17 @@ GUI_TEST(StartDialog, ComesBeforeAPlugin)
         guiStartPlugin(markedPlugin());
         request();
     });
-    recorder.onEvent(GUI_EVENT_INIT, [] { guiClose(1); });
+    app.whenShown("v_dlgbbr", [](Shown) { guiClose(1); });
     app.key(XK_F2);
     app.key(XK_F3);
-    const std::vector<Event>& events = recorder.events();
-    ASSERT_GE(events.size(), 3U);
-    EXPECT_EQ(events[0], toWindow(GUI_EVENT_COMMAND, -2));
-    EXPECT_EQ(events[1], toHost(GUI_EVENT_INIT));
-    EXPECT_EQ(recorder.count(toHost(GUI_EVENT_COMMAND, kPlugin)) +
-                  recorder.count(toWindow(GUI_EVENT_COMMAND, kPlugin)),
-              1);
+    EXPECT_THAT(recorder.events(),
+                ElementsAre(toWindow(GUI_EVENT_COMMAND, -2), toHost(GUI_EVENT_INIT),
+                            toHost(GUI_EVENT_COMMAND, kPlugin), toWindow(GUI_EVENT_COMMAND, -3)));
 }
 
-GUI_TEST(StartDialog, AskedForOutsideHandlersRunsAfterTheNextEvent)
+GUI_TEST(StartDialog, ServesOneRequestOnce)
 {
+    // Asked for outside handlers runs after the next event.
     recorder.clear();
     request();
     EXPECT_TRUE(holdsFor([] { return !isShown(board()); }, milliseconds{100}));
@@ -207,6 +198,17 @@ GUI_TEST(StartDialog, AskedForOutsideHandlersRunsAfterTheNextEvent)
     raiseEvent(GUI_EVENT_COMMAND, 5);
     EXPECT_THAT(recorder.events(),
                 ElementsAre(toWindow(GUI_EVENT_COMMAND, 5), toHost(GUI_EVENT_INIT)));
+
+    recorder.forgetReactions();
+    // No code is negative: nothing is reported to the host.
+    recorder.clear();
+    recorder.onEvent(GUI_EVENT_COMMAND, kStart, [] { request(); });
+    app.whenShown("v_dlgbbr", [](Shown) {
+        EXPECT_MISUSE(guiClose(-3), "Close: negative return code - 0 is used");
+    });
+    raiseEvent(GUI_EVENT_COMMAND, kStart);
+    EXPECT_EQ(recorder.count(toHost(GUI_EVENT_INIT, -1)), 0);
+    EXPECT_EQ(guiGetTopWnd(), app.find("v_mainwnd"));
 }
 
 // The dialog is not there to show that the host works: the window below it does.

@@ -21,32 +21,17 @@ void expectEndedBy(const std::function<void(Shown)>& takeAway)
 
 }  // namespace
 
-GUI_TEST(DialogTakenAway, DestroyedShellEndsIt)
+GUI_TEST(DialogTakenAway, DestroyedWidgetsEndIt)
 {
+    // Destroyed shell ends it.
     expectEndedBy([](Shown dialog) { XtDestroyWidget(dialog.shell()); });
     EXPECT_FALSE(board());
-}
 
-GUI_TEST(DialogTakenAway, DestroyedBoardEndsIt)
-{
+    // Destroyed board ends it.
     expectEndedBy([](Shown dialog) { XtDestroyWidget(dialog.widget()); });
     EXPECT_FALSE(findWidget("v_dlgshell"));
-}
 
-GUI_TEST(DialogTakenAway, DestroyedInItsFirstEventIsNeverShown)
-{
-    for (const bool wholeShell : {true, false}) {
-        recorder.onEvent(GUI_EVENT_INIT,
-                         [=] { XtDestroyWidget(wholeShell ? shellOf(board()) : board()); });
-        buildDialog();
-        EXPECT_EQ(guiRunDialog(Recorder::dialogHandler()), 0);
-        EXPECT_EQ(guiGetTopWnd(), app.find("v_mainwnd"));
-    }
-}
-
-// The handler of a button takes away the dialog of the button.
-GUI_TEST(DialogTakenAway, DestroyedByItsHandlerEndsIt)
-{
+    // The handler of a button takes away the dialog of the button.
     recorder.onEvent(GUI_EVENT_COMMAND, 1, [] { XtDestroyWidget(shellOf(board())); });
     buildDialog();
     app.whenShown("v_dlgbbr", [](Shown dialog) { dialog.click("OK"); });
@@ -54,32 +39,57 @@ GUI_TEST(DialogTakenAway, DestroyedByItsHandlerEndsIt)
     EXPECT_EQ(guiGetTopWnd(), app.find("v_mainwnd"));
 }
 
-GUI_TEST(DialogTakenAway, DestroyedOuterDialogTakesTheInnerOneAlong)
+GUI_TEST(DialogTakenAway, InItsFirstEventItIsNeverShown)
 {
-    int inner = -5;
-    buildDialog("Outer");
-    app.whenShown("v_dlgbbr", [&](Shown outer) {
-        buildDialog("Inner");
-        app.whenShown("v_dlgbbr", [&](Shown) { XtDestroyWidget(outer.shell()); });
-        inner = guiRunDialog(Recorder::innerDialogHandler());
-    });
-    EXPECT_EQ(guiRunDialog(Recorder::dialogHandler()), 0);
-    EXPECT_EQ(inner, 0);
-    EXPECT_EQ(guiGetTopWnd(), app.find("v_mainwnd"));
-    EXPECT_FALSE(board());
+    // Destroyed in its first event is never shown.
+    for (const bool wholeShell : {true, false}) {
+        recorder.onEvent(GUI_EVENT_INIT,
+                         [=] { XtDestroyWidget(wholeShell ? shellOf(board()) : board()); });
+        buildDialog();
+        EXPECT_EQ(guiRunDialog(Recorder::dialogHandler()), 0);
+        EXPECT_EQ(guiGetTopWnd(), app.find("v_mainwnd"));
+    }
+
+    recorder.forgetReactions();
+    // The host gives the screen to another window in the first event.
+    {
+        Widget const main = guiGetTopWnd();
+        recorder.onEvent(GUI_EVENT_INIT, [&] { guiSetTopWnd(main); });
+        buildDialog();
+        EXPECT_EQ(guiRunDialog(Recorder::dialogHandler()), 0);
+        EXPECT_EQ(guiGetTopWnd(), main);
+    }
 }
 
-GUI_TEST(DialogTakenAway, DestroyedBoxTakesItsDialogAlong)
+GUI_TEST(DialogTakenAway, DestroyedOuterWindowTakesItAlong)
 {
-    int inner = -5;
-    app.whenShown("v_infobox", [&](Shown box) {
-        buildDialog("Inner");
-        app.whenShown("v_dlgbbr", [&](Shown) { XtDestroyWidget(box.shell()); });
-        inner = guiRunDialog(Recorder::dialogHandler());
-    });
-    guiInfoBox("Outer");
-    EXPECT_EQ(inner, 0);
-    EXPECT_EQ(guiGetTopWnd(), app.find("v_mainwnd"));
+    // Destroyed outer dialog takes the inner one along.
+    {
+        int inner = -5;
+        buildDialog("Outer");
+        app.whenShown("v_dlgbbr", [&](Shown outer) {
+            buildDialog("Inner");
+            app.whenShown("v_dlgbbr", [&](Shown) { XtDestroyWidget(outer.shell()); });
+            inner = guiRunDialog(Recorder::innerDialogHandler());
+        });
+        EXPECT_EQ(guiRunDialog(Recorder::dialogHandler()), 0);
+        EXPECT_EQ(inner, 0);
+        EXPECT_EQ(guiGetTopWnd(), app.find("v_mainwnd"));
+        EXPECT_FALSE(board());
+    }
+
+    // Destroyed box takes its dialog along.
+    {
+        int inner = -5;
+        app.whenShown("v_infobox", [&](Shown box) {
+            buildDialog("Inner");
+            app.whenShown("v_dlgbbr", [&](Shown) { XtDestroyWidget(box.shell()); });
+            inner = guiRunDialog(Recorder::dialogHandler());
+        });
+        guiInfoBox("Outer");
+        EXPECT_EQ(inner, 0);
+        EXPECT_EQ(guiGetTopWnd(), app.find("v_mainwnd"));
+    }
 }
 
 GUI_TEST(DialogTakenAway, ClosedFrameEndsAllDialogs)
@@ -99,18 +109,9 @@ GUI_TEST(DialogTakenAway, ClosedFrameEndsAllDialogs)
     EXPECT_EQ(guiGetTopWnd(), nullptr);
 }
 
-// The host gives the screen to another window in the first event.
-GUI_TEST(DialogTakenAway, OfItsPlaceOnTopInItsFirstEventIsNeverShown)
+GUI_TEST(DialogTakenAway, OneThatDoesNotRunYetMayBeDestroyed)
 {
-    Widget const main = guiGetTopWnd();
-    recorder.onEvent(GUI_EVENT_INIT, [&] { guiSetTopWnd(main); });
-    buildDialog();
-    EXPECT_EQ(guiRunDialog(Recorder::dialogHandler()), 0);
-    EXPECT_EQ(guiGetTopWnd(), main);
-}
-
-GUI_TEST(DialogTakenAway, OneUnderConstructionMayBeDestroyed)
-{
+    // One under construction may be destroyed.
     for (const bool wholeShell : {true, false}) {
         buildDialog("Destroyed");
         XtDestroyWidget(wholeShell ? shellOf(board()) : board());
@@ -120,10 +121,8 @@ GUI_TEST(DialogTakenAway, OneUnderConstructionMayBeDestroyed)
         buildDialog("Next");
         EXPECT_EQ(runWhileShown([](Shown dialog) { EXPECT_EQ(dialog.title(), "Next"); }, 2), 2);
     }
-}
 
-GUI_TEST(DialogTakenAway, OneUnderConstructionGoesWithItsParent)
-{
+    // One under construction goes with its parent.
     buildDialog("Outer");
     app.whenShown("v_dlgbbr", [](Shown outer) {
         buildDialog("Inner");
@@ -133,10 +132,8 @@ GUI_TEST(DialogTakenAway, OneUnderConstructionGoesWithItsParent)
     EXPECT_MISUSE(guiRunDialog(nullptr), "RunDialog: no prepared dialog", -1);
     buildDialog("Next");
     EXPECT_EQ(runWhileShown([](Shown) {}, 2), 2);
-}
 
-GUI_TEST(DialogTakenAway, RequestedOneMayBeDestroyed)
-{
+    // Requested one may be destroyed.
     recorder.clear();
     recorder.onEvent(GUI_EVENT_COMMAND, 1, [] {
         buildDialog("Destroyed");

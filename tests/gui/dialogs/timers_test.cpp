@@ -18,8 +18,9 @@ bool nothingComes(int event)
 
 }  // namespace
 
-GUI_TEST(DialogTimer, StopsWithTheDialogThatStartedIt)
+GUI_TEST(DialogTimer, StopsWithEveryDialog)
 {
+    // Stops with the dialog that started it.
     buildDialog();
     runWhileShown([&](Shown) {
         guiTimer(100);
@@ -29,31 +30,16 @@ GUI_TEST(DialogTimer, StopsWithTheDialogThatStartedIt)
     recorder.clear();
     guiTimer(100);
     EXPECT_TRUE(app.waitForEvent(toWindow(GUI_EVENT_TIMER)));
-}
 
-GUI_TEST(DialogTimer, StopsAlsoWhenItWasStartedBefore)
-{
+    // Stops also when it was started before.
     guiTimer(100);
     EXPECT_TRUE(app.waitForEvent(toWindow(GUI_EVENT_TIMER)));
     buildDialog();
     EXPECT_TRUE(app.waitForEvent(toWindow(GUI_EVENT_TIMER)));
     runWhileShown([&](Shown) { EXPECT_TRUE(app.waitForEvent(toDialog(GUI_EVENT_TIMER))); });
     EXPECT_TRUE(nothingComes(GUI_EVENT_TIMER));
-}
 
-GUI_TEST(DialogTimer, StopsWithADialogThatIsNeverShown)
-{
-    recorder.onEvent(GUI_EVENT_INIT, [] {
-        guiTimer(100);
-        guiClose(0);
-    });
-    buildDialog();
-    guiRunDialog(Recorder::dialogHandler());
-    EXPECT_TRUE(nothingComes(GUI_EVENT_TIMER));
-}
-
-GUI_TEST(DialogTimer, StopsWithAnInnerDialog)
-{
+    // Stops with an inner dialog.
     buildDialog("Outer");
     runWhileShown([&](Shown) {
         guiTimer(100);
@@ -64,19 +50,28 @@ GUI_TEST(DialogTimer, StopsWithAnInnerDialog)
     });
 }
 
-// In the handler of the timer's own event, too, where the timer would go on by itself.
-GUI_TEST(DialogTimer, StopsWhenItsHandlerClosesTheDialog)
+GUI_TEST(DialogTimer, StopsHoweverTheDialogEnds)
 {
+    // Stops with a dialog that is never shown.
+    recorder.onEvent(GUI_EVENT_INIT, [] {
+        guiTimer(100);
+        guiClose(0);
+    });
+    buildDialog();
+    guiRunDialog(Recorder::dialogHandler());
+    EXPECT_TRUE(nothingComes(GUI_EVENT_TIMER));
+
+    recorder.forgetReactions();
+    // In the handler of the timer's own event, too, where the timer would go on by itself.
     recorder.onEvent(GUI_EVENT_TIMER, [] { guiClose(6); });
     recorder.onEvent(GUI_EVENT_INIT, [] { guiTimer(100); });
     buildDialog();
     EXPECT_EQ(guiRunDialog(Recorder::dialogHandler()), 6);
     EXPECT_TRUE(nothingComes(GUI_EVENT_TIMER));
     EXPECT_TRUE(guiGetTopWnd());
-}
 
-GUI_TEST(DialogTimer, StopsWhenTheDialogIsDestroyed)
-{
+    recorder.forgetReactions();
+    // Stops when the dialog is destroyed.
     buildDialog();
     app.whenShown("v_dlgbbr", [](Shown dialog) {
         guiTimer(100);

@@ -43,15 +43,14 @@ GUI_TEST(DialogTitle, IsSetWhileTheDialogRuns)
     });
 }
 
-GUI_TEST(DialogTitle, OfTheFrameIsNotMeant)
+GUI_TEST(DialogTitle, IsThatOfTheRunningDialogAlone)
 {
+    // Of the frame is not meant.
     EXPECT_MISUSE(guiSetDialogTitle("Frame"), "SetDialogTitle: no dialog");
     EXPECT_MISUSE(guiSetDialogTitle(nullptr), "SetDialogTitle: no dialog");
     EXPECT_EQ(wm::nameOf(app.shell()), "Kite");
-}
 
-GUI_TEST(DialogTitle, OfADialogUnderConstructionIsNotMeant)
-{
+    // Of a dialog under construction is not meant.
     buildDialog("Built");
     EXPECT_MISUSE(guiSetDialogTitle("Other"), "SetDialogTitle: no dialog");
     runWhileShown([](Shown outer) {

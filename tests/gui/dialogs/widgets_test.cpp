@@ -46,8 +46,9 @@ GUI_TEST(DialogWidgets, AreMadeByTheFirstCall)
     EXPECT_FALSE(XtIsManaged(dialog));
 }
 
-GUI_TEST(DialogWidgets, HoldTheHandlerWhileTheyRun)
+GUI_TEST(DialogWidgets, KeepTheirResourcesWhileTheyRun)
 {
+    // Hold the handler while they run.
     buildDialog();
     runWhileShown([&](Shown dialog) {
         EXPECT_EQ(resource<XtPointer>(dialog.widget(), XmNuserData),
@@ -55,19 +56,15 @@ GUI_TEST(DialogWidgets, HoldTheHandlerWhileTheyRun)
         expectShell(dialog.shell(), app.find("v_mainwnd"));
         expectBoard(dialog.widget(), dialog.shell());
     });
-}
 
-GUI_TEST(DialogWidgets, AreTransientAndAcceptCloseRequests)
-{
+    // Are transient and accept close requests.
     buildDialog();
     runWhileShown([&](Shown dialog) {
         EXPECT_EQ(wm::transientFor(dialog.shell()), windowOf(app.shell()));
         EXPECT_THAT(wm::protocolsOf(dialog.shell()), Contains("WM_DELETE_WINDOW"));
     });
-}
 
-GUI_TEST(DialogWidgets, CannotBeResized)
-{
+    // Cannot be resized.
     buildDialog();
     runWhileShown([&](Shown dialog) {
         const int functions = resource<int>(dialog.shell(), XmNmwmFunctions);
@@ -75,6 +72,14 @@ GUI_TEST(DialogWidgets, CannotBeResized)
         EXPECT_FALSE(functions & MWM_FUNC_ALL);
         EXPECT_FALSE(functions & MWM_FUNC_RESIZE);
     });
+
+    // Go with the dialog.
+    buildDialog();
+    guiClose(0);
+    EXPECT_FALSE(findWidget("v_dlgshell"));
+    buildDialog();
+    runWhileShown([](Shown) {});
+    EXPECT_FALSE(findWidget("v_dlgshell"));
 }
 
 GUI_TEST(DialogWidgets, BlockTheFrame)
@@ -89,14 +94,4 @@ GUI_TEST(DialogWidgets, BlockTheFrame)
         EXPECT_TRUE(
             holdsFor([&] { return recorder.count(GUI_EVENT_COMMAND) == 0; }, milliseconds{150}));
     });
-}
-
-GUI_TEST(DialogWidgets, GoWithTheDialog)
-{
-    buildDialog();
-    guiClose(0);
-    EXPECT_FALSE(findWidget("v_dlgshell"));
-    buildDialog();
-    runWhileShown([](Shown) {});
-    EXPECT_FALSE(findWidget("v_dlgshell"));
 }
