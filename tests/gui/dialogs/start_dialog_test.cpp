@@ -182,6 +182,7 @@ GUI_TEST(StartDialog, ComesBeforeAPlugin)
     });
     app.whenShown("v_dlgbbr", [](Shown) { guiClose(1); });
     app.key(XK_F2);
+    EXPECT_TRUE(wm::waitForFocus(app.shell()));
     app.key(XK_F3);
     EXPECT_THAT(recorder.events(),
                 ElementsAre(toWindow(GUI_EVENT_COMMAND, -2), toHost(GUI_EVENT_INIT),

@@ -94,7 +94,7 @@ GUI_TEST(DialogTimer, GoesOnWhenADialogIsAbandoned)
 
 GUI_STARTUP_TEST(DialogHover, StopsWithTheDialog)
 {
-    host.profile().setInt("mouse_hover", 200);
+    host.profile().setString("mouse_hover", "0.2");
     app.run([&] {
         ASSERT_EQ(guiDialog("Hover"), 0);
         guiButton(1, 0, 0, 100, "Here", 0);
