@@ -58,8 +58,11 @@ GUI_TEST(DialogFocus, IsOnTheFirstSensitiveControlWithoutAWish)
     // Skips insensitive controls.
     buildThreeButtons();
     XtSetSensitive(control(1), False);
+    recorder.onEvent(GUI_EVENT_INIT,
+                     [] { EXPECT_EQ(resource<Widget>(board(), XmNinitialFocus), control(2)); });
     EXPECT_EQ(idReachedByKeyboard(), 2);
     EXPECT_EQ(recorder.count(toDialog(GUI_EVENT_COMMAND, 2)), 1);
+    recorder.forgetReactions();
 
     // Failed wishes are none.
     recorder.onEvent(GUI_EVENT_INIT, [] {
