@@ -1,0 +1,127 @@
+// Where controls stand: dialog units, measured in the dialog's font.
+
+#include "dialogs_support.h"
+
+#include <X11/Xatom.h>
+
+using namespace kite::testing;
+
+namespace {
+
+struct Pixels {
+    int x, y, width, height;
+    bool operator==(const Pixels&) const = default;
+};
+
+std::ostream& operator<<(std::ostream& out, const Pixels& place)
+{
+    return out << place.x << ' ' << place.y << ' ' << place.width << ' ' << place.height;
+}
+
+Pixels placeOf(Widget widget)
+{
+    return {resource<Position>(widget, XmNx), resource<Position>(widget, XmNy),
+            resource<Dimension>(widget, XmNwidth), resource<Dimension>(widget, XmNheight)};
+}
+
+// Labels stand exactly at their place: two units below the top of the row, 8 units high.
+void expectPlaces(const Units& units)
+{
+    struct {
+        int row, x, width;
+    } const rows[] = {{0, 0, 1},   {0, 0, 2},    {0, 1, 3},    {1, 2, 5},
+                      {2, 3, 10},  {3, 7, 33},   {4, 4, 99},   {10, 11, 7},
+                      {17, 50, 8}, {40, 200, 1}, {-1, -7, 20}, {-3, -9, 20}};
+    for (const bool isAbsolute : {false, true}) {
+        ASSERT_EQ(guiDialog("Units"), 0);
+        guiUseAbsPos(isAbsolute);
+        int id = 0;
+        for (const auto& row : rows) guiLabel(++id, row.row, row.x, row.width, "");
+        id = 0;
+        for (const auto& row : rows) {
+            SCOPED_TRACE(std::string{isAbsolute ? "y " : "row "} + std::to_string(row.row));
+            const int y = isAbsolute ? row.row : row.row * 14 + 2;
+            const Pixels expected{static_cast<int>((row.x + 7) * units.across),
+                                  static_cast<int>((y + 7) * units.down),
+                                  static_cast<int>(row.width * units.across),
+                                  static_cast<int>(8 * units.down)};
+            EXPECT_EQ(placeOf(control(++id)), expected);
+        }
+        guiClose(0);
+    }
+}
+
+// The first font of the list, in which a widget writes.
+std::string nameOfFirstFont(XmFontList list)
+{
+    XmFontContext context = nullptr;
+    if (!XmFontListInitFontContext(&context, list)) return {};
+    XmFontType type{};
+    XmFontListEntry const entry = XmFontListNextEntry(context);
+    XtPointer const font = XmFontListEntryGetFont(entry, &type);
+    XmFontListFreeFontContext(context);
+    unsigned long name = 0;
+    if (type == XmFONT_IS_FONTSET) {
+        XFontStruct** fonts = nullptr;
+        char** names = nullptr;
+        XFontsOfFontSet(static_cast<XFontSet>(font), &fonts, &names);
+        return names[0];
+    }
+    if (!XGetFontProperty(static_cast<XFontStruct*>(font), XA_FONT, &name)) return {};
+    char* const text = XGetAtomName(toolkit::display(), name);
+    std::string copy = text;
+    XFree(text);
+    return copy;
+}
+
+}  // namespace
+
+GUI_TEST(DialogUnits, GrowWithTheFontOfTheStatusLine)
+{
+    const std::string font =
+        nameOfFirstFont(resource<XmFontList>(app.find("v_sline"), XmNfontList));
+    EXPECT_EQ(font, kUsualFont);
+    expectPlaces(unitsOf(kUsualFont));
+}
+
+GUI_STARTUP_TEST(DialogUnits, GrowWithTheFontOfTheProfile)
+{
+    host.profile().setString("fnamm", kLargeFont);
+    app.run([] { expectPlaces(unitsOf(kLargeFont)); });
+}
+
+GUI_STARTUP_TEST(DialogUnits, GrowWithAProportionalFontOfTheProfile)
+{
+    const std::string font = "-adobe-times-bold-i-normal--24-240-75-75-p-128-iso8859-1";
+    host.profile().setString("fnamm", font);
+    app.run([&] { expectPlaces(unitsOf(font)); });
+}
+
+GUI_STARTUP_TEST(DialogUnits, GrowWithTheToolkitsFontWhenThereIsNone)
+{
+    host.profile().setString("fnamm", "-no-such-font-*-*-*--14-*-*-*-*-*-*-*");
+    app.run([] {
+        ASSERT_EQ(guiDialog("Units"), 0);
+        const std::string font = nameOfFirstFont(resource<XmFontList>(board(), XmNlabelFontList));
+        guiClose(0);
+        expectPlaces(unitsOf(font));
+    });
+}
+
+// The controls write in the font that they are measured with.
+GUI_STARTUP_TEST(DialogUnits, AreThoseOfTheFontOfAllControls)
+{
+    host.profile().setString("fnamm", kLargeFont);
+    app.run([] {
+        ASSERT_EQ(guiDialog("Font"), 0);
+        guiLabel(1, 0, 0, 50, "Label");
+        guiEdit(2, 1, 0, 50, 0, 0);
+        guiButton(3, 2, 0, 50, "Button", 0);
+        guiCheck(4, 3, 0, 50, "Check");
+        guiRadio(5, 4, 0, 50, "Radio");
+        for (int id = 1; id <= 5; ++id)
+            EXPECT_EQ(nameOfFirstFont(resource<XmFontList>(control(id), XmNfontList)),
+                      "-Misc-Fixed-Medium-R-Normal--20-200-75-75-C-100-ISO8859-1")
+                << id;
+    });
+}
