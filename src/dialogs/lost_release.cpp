@@ -1,7 +1,7 @@
 #include "dialogs/lost_release.h"
 
 #include <Xm/PushB.h>
-#include <Xm/ToggleB.h>
+#include <Xm/ToggleBP.h>
 
 #include <memory>
 
@@ -32,6 +32,9 @@ void letGo(Widget control)
     event.xcrossing.window = XtWindow(control);
     for (const char* const action : {"Leave", "Disarm"})
         XtCallActionProc(control, action, &event, nullptr, 0);
+    // A toggle button waits for the release all the same, and draws itself when the pointer enters it.
+    if (XmIsToggleButton(control))
+        reinterpret_cast<XmToggleButtonWidget>(control)->toggle.Armed = False;
 }
 
 void clickDone(XtPointer data, XtIntervalId*)
