@@ -9,7 +9,7 @@ namespace kite {
 // Other than lists of children, this one is made anew each time it is asked for.
 Widget selectedTreeItem(Widget container)
 {
-    WidgetList const items = resource<WidgetList>(container, XmNselectedObjects);
+    auto* const items = resource<WidgetList>(container, XmNselectedObjects);
     Widget const first = items ? items[0] : nullptr;
     XtFree(reinterpret_cast<char*>(items));
     return first;

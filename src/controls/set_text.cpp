@@ -38,16 +38,18 @@ void setButtonLabel(Widget button, const char* text)
     XtVaSetValues(button, XmNlabelType, XmSTRING, XmNlabelString, string.get(), nullptr);
 }
 
-// Emptied first: what is undone or compared in the text begins anew.
+// Emptied first, as other texts are, but painted once.
 void setEditedText(Widget edited, const char* text)
 {
-    XtVaSetValues(edited, XmNvalue, nullptr, nullptr);
-    XtVaSetValues(edited, XmNvalue, text, nullptr);
+    XmTextDisableRedisplay(edited);
+    XmTextSetString(edited, const_cast<char*>(""));
+    XmTextSetString(edited, const_cast<char*>(text));
+    XmTextEnableRedisplay(edited);
 }
 
 void clearField(Widget composed)
 {
-    if (Widget const field = resource<Widget>(composed, XmNtextField))
+    if (auto* const field = resource<Widget>(composed, XmNtextField))
         XtVaSetValues(field, XmNvalue, nullptr, nullptr);
 }
 
@@ -61,7 +63,7 @@ void setComboText(Widget combo, const char* text)
 // The toolkit writes it into the field only when it is another position than before.
 void showPosition(Widget spin)
 {
-    Widget const field = resource<Widget>(spin, XmNtextField);
+    auto* const field = resource<Widget>(spin, XmNtextField);
     if (!field || XmTextFieldGetLastPosition(field) > 0) return;
     const std::string position = std::to_string(resource<int>(spin, XmNposition));
     XtVaSetValues(field, XmNvalue, position.c_str(), nullptr);
@@ -78,11 +80,13 @@ void setSpinText(Widget spin, const char* text)
 struct Setter {
     ControlType type;
     void (*set)(Widget control, const char* text);
+    void (*show)(Widget control);  // texts and their fields paint themselves
 };
 
-constexpr Setter kSetters[] = {
-    {Label, setLabel},     {Check, setLabel},     {Radio, setLabel},     {Button, setButtonLabel},
-    {Edit, setEditedText}, {Text, setEditedText}, {Combo, setComboText}, {Spin, setSpinText}};
+constexpr Setter kSetters[] = {{Label, setLabel, paintNow},    {Check, setLabel, paintNow},
+                               {Radio, setLabel, paintNow},    {Button, setButtonLabel, paintNow},
+                               {Edit, setEditedText, sendNow}, {Text, setEditedText, sendNow},
+                               {Combo, setComboText, sendNow}, {Spin, setSpinText, sendNow}};
 
 constexpr TypeSet kWithText{Label, Edit, Button, Check, Radio, Text, Combo, Spin};
 
@@ -90,15 +94,17 @@ constexpr TypeSet kWithText{Label, Edit, Button, Check, Radio, Text, Combo, Spin
 void paintScrollBarsNow(Widget scrolled)
 {
     for (const char* const name : {XmNverticalScrollBar, XmNhorizontalScrollBar})
-        if (Widget const bar = resource<Widget>(scrolled, name)) paintNow(bar);
+        if (auto* const bar = resource<Widget>(scrolled, name)) paintNow(bar);
 }
 
 void setText(const Control& control, const char* text)
 {
     const EventsSuppressed quiet;
-    for (const Setter& setter : kSetters)
-        if (setter.type == control.type) setter.set(control.widget, text);
-    paintNow(control.widget);
+    for (const Setter& setter : kSetters) {
+        if (setter.type != control.type) continue;
+        setter.set(control.widget, text);
+        setter.show(control.widget);
+    }
     if (control.outer != control.widget) paintScrollBarsNow(control.outer);
 }
 

@@ -22,8 +22,8 @@ DialogUnits::DialogUnits(const FontMeasures& font)
 
 int DialogUnits::truncated(double pixels)
 {
-    constexpr double kLeast = std::numeric_limits<int>::min() / 4;
-    constexpr double kMost = std::numeric_limits<int>::max() / 4;  // room for what is added later
+    constexpr double kLeast = std::numeric_limits<int>::min() / 4.0;
+    constexpr double kMost = std::numeric_limits<int>::max() / 4.0;  // room for what is added later
     return static_cast<int>(std::clamp(pixels, kLeast, kMost));
 }
 

@@ -16,8 +16,9 @@ using Milliseconds = std::chrono::duration<double, std::milli>;
 constexpr Milliseconds kPause{16};  // between two bursts of changes
 
 struct {
-    double allowance = kPaintedInARow;  // grows with time and shrinks with every change that is painted
-    Clock::time_point latest{};         // when a change was to be painted
+    double allowance =
+        kPaintedInARow;          // grows with time and shrinks with every change that is painted
+    Clock::time_point latest{};  // when a change was to be painted
 } state;
 
 struct Turn {
@@ -61,16 +62,26 @@ void paintExposed(Display* display)
     while (XCheckMaskEvent(display, ExposureMask, &event)) XtDispatchEvent(&event);
 }
 
-}  // namespace
-
-void paintNow(Widget widget)
+void showNow(Widget widget, void (*paint)(Widget))
 {
     if (!XtIsRealized(widget)) return;  // it is painted when it is shown
     const Turn turn = nextTurn();
     if (!turn.isPainted) return;
-    paint(widget);
+    if (paint) paint(widget);
     if (turn.isFirst) paintExposed(XtDisplay(widget));
     XFlush(XtDisplay(widget));
+}
+
+}  // namespace
+
+void paintNow(Widget widget)
+{
+    showNow(widget, paint);
+}
+
+void sendNow(Widget widget)
+{
+    showNow(widget, nullptr);
 }
 
 }  // namespace kite

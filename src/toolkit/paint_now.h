@@ -19,4 +19,7 @@ inline constexpr double kPaintedAMillisecond = 1;
 // server has asked to be painted by now.
 void paintNow(Widget widget);
 
+// The same for a widget that paints its changes by itself: they are sent to the server.
+void sendNow(Widget widget);
+
 }  // namespace kite

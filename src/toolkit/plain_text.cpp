@@ -24,9 +24,9 @@ std::string plainText(XmString string)
     return text;
 }
 
-std::string plainTextOf(Widget widget, const char* name)
+std::string plainTextOf(Widget widget, const char* resourceName)
 {
-    auto* const string = resource<XmString>(widget, name);
+    auto* const string = resource<XmString>(widget, resourceName);
     std::string text = plainText(string);
     XmStringFree(string);
     return text;

@@ -12,6 +12,6 @@ namespace kite {
 std::string plainText(XmString string);
 
 // A compound string that the toolkit hands out as a copy, as plain text.
-std::string plainTextOf(Widget widget, const char* resource);
+std::string plainTextOf(Widget widget, const char* resourceName);
 
 }  // namespace kite
