@@ -4,35 +4,17 @@
 #include <benchmark/benchmark.h>
 #include <kitegui.h>
 
-#include <optional>
-
 #include "bare_dialog.h"
 #include "bare_frame.h"
 #include "dialog_layout.h"
 #include "in_frame.h"
+#include "library_dialog.h"
 #include "measured.h"
 
 namespace {
 
 using bench::Kind;
 using bench::Measured;
-using bench::Place;
-
-void addControl(int number)
-{
-    const Place place = bench::placeOf(number);
-    const int id = number + 1;
-    const std::string text = bench::textOf(number);
-    switch (place.kind) {
-    case Kind::Label: guiLabel(id, place.top, place.x, bench::kControlWidth, text.c_str()); break;
-    case Kind::Edit: guiEdit(id, place.top, place.x, bench::kControlWidth, 0, 0); break;
-    case Kind::Button:
-        guiButton(id, place.top, place.x, bench::kControlWidth, text.c_str(), 0);
-        break;
-    case Kind::Check: guiCheck(id, place.top, place.x, bench::kControlWidth, text.c_str()); break;
-    case Kind::Radio: guiRadio(id, place.top, place.x, bench::kControlWidth, text.c_str()); break;
-    }
-}
 
 Measured* measured;
 
@@ -60,7 +42,7 @@ void openInLibrary(benchmark::State& state, int controls)
             measurement.begin(XtDisplay(guiGetTopWnd()));
             guiDialog("Dialog");
             guiUseAbsPos(1);
-            for (int number = 0; number < controls; ++number) addControl(number);
+            for (int number = 0; number < controls; ++number) bench::addControl(number);
             guiRunDialog(handle);
         }
         measurement.report();

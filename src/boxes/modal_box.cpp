@@ -9,6 +9,7 @@
 #include "frame/frame_fonts.h"
 #include "frame/top_window.h"
 #include "toolkit/nested_loop.h"
+#include "toolkit/painted_labels.h"
 #include "toolkit/resources.h"
 #include "toolkit/shells.h"
 
@@ -28,7 +29,9 @@ Widget create(const ModalBox::Look& look, const char* text)
     XtSetArg(arguments[2], XmNdialogTitle, title.get());
     XtSetArg(arguments[3], look.textResource, message.get());
     XtSetArg(arguments[4], XmNautoUnmanage, False);  // it goes when it is answered, not before
-    return look.create(parent, const_cast<char*>(look.widgetName), arguments, 5);
+    Widget const box = look.create(parent, const_cast<char*>(look.widgetName), arguments, 5);
+    if (box) freePaintedLabelsWith(XtParent(box));
+    return box;
 }
 
 }  // namespace

@@ -18,6 +18,7 @@
 #include "frame/top_window.h"
 #include "toolkit/compound_string.h"
 #include "toolkit/displayable_text.h"
+#include "toolkit/painted_labels.h"
 #include "toolkit/resources.h"
 #include "toolkit/shells.h"
 
@@ -72,6 +73,7 @@ int prepare(const char* title)
 {
     Widget const shell = createShell(title);
     if (!shell) return reportMisuse("Dialog: cannot create dialog shell");
+    freePaintedLabelsWith(shell);
     Widget const board = createBoard(shell, title);
     if (!board) return destroy(shell, "Dialog: cannot create bulletin board widget");
     onCloseRequest(shell, closeRequested, board);

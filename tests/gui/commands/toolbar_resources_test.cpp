@@ -1,7 +1,7 @@
 // What the toolbar keeps in the server: two pictures for each button, as long as the button is there.
 
-#include "../images/server_resources.h"
 #include "commands_support.h"
+#include "server_resources.h"
 
 using namespace kite::testing;
 

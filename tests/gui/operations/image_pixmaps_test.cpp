@@ -1,8 +1,8 @@
 // The pixmaps of pictures on the server: each control has one at most, and it is freed once. (What is freed
 // twice is an X error, and fails the test.)
 
-#include "../images/server_resources.h"
 #include "pictures.h"
+#include "server_resources.h"
 
 using namespace kite::testing;
 
