@@ -780,7 +780,8 @@ KITEGUI_API void guiSetCheck(int id, int state);
  *   spin box               the values are min to max
  *
  * A value outside the new limits becomes the nearest one inside. Limits change nothing
- * when min is not below max; for a scale they may be 1,073,741,823 apart, which is all that the toolkit can do.
+ * when min is not below max, and those of a scale when they are more than 1,073,741,823 apart, which is all
+ * that the toolkit can do.
  */
 KITEGUI_API void guiSetRange(int id, int min, int max);
 

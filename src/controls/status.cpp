@@ -4,8 +4,10 @@
 #include <kitegui.h>
 
 #include "controls/control_lookup.h"
+#include "controls/hidden_text.h"
 #include "dialogs/dialog_run.h"
 #include "frame/dispatcher.h"
+#include "toolkit/insertion_cursor.h"
 
 namespace kite {
 
@@ -18,6 +20,8 @@ constexpr TypeSet kEnabled{Label, Edit,  Button,   Check, Radio,  Choice, List,
 
 constexpr TypeSet kFocusable{Edit, Button, Check, Radio,  Choice, List,
                              Text, Combo,  Tree,  Slider, Spin};
+
+constexpr TypeSet kWithCursor{Edit, Text};
 
 }  // namespace
 
@@ -38,7 +42,9 @@ void guiEnable(int id, int enable)
     const Control control = findControl("Enable", id, kEnabled);
     if (!control) return;
     const EventsSuppressed quiet;
+    if (control.type == Edit) keepHidden(control.widget, enable != 0);
     XtSetSensitive(control.widget, enable != 0);
+    if (!enable && kWithCursor.has(control.type)) hideInsertionCursor(control.widget);
 }
 
 void guiSetFocus(int id)

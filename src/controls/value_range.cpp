@@ -4,6 +4,7 @@
 #include <Xm/Scale.h>
 
 #include <algorithm>
+#include <climits>
 
 #include "toolkit/resources.h"
 
@@ -20,6 +21,8 @@ struct Names {
 
 const Names kScale{XmNvalue, XmNminimum, XmNmaximum};
 const Names kSpin{XmNposition, XmNminimumValue, XmNmaximumValue};
+
+constexpr long kWidestScale = INT_MAX / 2;
 
 int clamped(long value, int least, int most)
 {
@@ -55,7 +58,7 @@ void setSpinPosition(Widget spin, long position)
 
 void setScaleRange(Widget scale, int least, int most)
 {
-    setRange(scale, kScale, least, most);
+    if (long{most} - least <= kWidestScale) setRange(scale, kScale, least, most);
 }
 
 void setSpinRange(Widget spin, int least, int most)

@@ -10,7 +10,8 @@ namespace kite {
 void setScaleValue(Widget scale, long value);
 void setSpinPosition(Widget spin, long position);
 
-// Limits of which the least is not below the most leave the control as it is. The value follows the limits.
+// Limits of which the least is not below the most, or which are further apart than the toolkit can do, leave
+// the control as it is. The value follows the limits.
 void setScaleRange(Widget scale, int least, int most);
 void setSpinRange(Widget spin, int least, int most);
 

@@ -16,9 +16,9 @@ namespace kite {
 
 namespace {
 
-void entered(Widget, XtPointer data, XEvent*, Boolean*)
+void entered(Widget control, XtPointer data, XEvent*, Boolean*)
 {
-    hover::enterControl(Tag{data}.id());
+    hover::enterControl(control, Tag{data}.id());
 }
 
 void left(Widget, XtPointer, XEvent*, Boolean*)

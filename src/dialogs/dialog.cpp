@@ -95,6 +95,12 @@ bool abandon()
     return true;
 }
 
+// A dialog that was asked for already is still run.
+void restart()
+{
+    if (building::isPrepared()) abandon();
+}
+
 // The handler of a dialog stands in its board's user data, where the dispatcher looks for it.
 void setHandler(GuiHandler handler)
 {
@@ -121,7 +127,7 @@ int guiDialog(const char* title)
         return reportMisuse("Dialog: handlers must return after StartDialog");
     if (building::isPrepared())
         return reportMisuse("Dialog: you must start the previous dialog first");
-    frame::setDialogActions({abandon, dialogRun::noteCode});
+    frame::setDialogActions({abandon, restart, dialogRun::noteCode});
     return prepare(title);
 }
 

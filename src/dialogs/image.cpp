@@ -13,6 +13,12 @@ namespace {
 
 constexpr int kFrame = 2;  // pixels of shadow
 
+// A picture is not set and cleared by clicks: its frame looks as it did.
+void clicked(Widget image, XtPointer, XtPointer)
+{
+    XmToggleButtonSetState(image, False, False);
+}
+
 }  // namespace
 
 using namespace kite;
@@ -37,5 +43,6 @@ int guiImage(int id, int row, int rows, int x, int width, int framed)
 
     reportCommonEvents(widget, tag);
     takeFocusByClick(widget);
+    XtAddCallback(widget, XmNvalueChangedCallback, clicked, nullptr);
     return building::append(id, ControlType::Image, widget);
 }

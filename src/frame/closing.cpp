@@ -23,7 +23,7 @@ namespace kite::frame {
 
 namespace {
 
-DialogActions dialogs{nullptr, nullptr};  // set by the first dialog
+DialogActions dialogs{nullptr, nullptr, nullptr};  // set by the first dialog
 
 // The settings are the host's: it may close the frame when it is asked for one.
 void saveGeometry(Widget shell)
@@ -59,6 +59,11 @@ void closeTopWindow(int code)
 void setDialogActions(const DialogActions& actions)
 {
     dialogs = actions;
+}
+
+void restartDialogs()
+{
+    if (dialogs.restart) dialogs.restart();
 }
 
 void close()

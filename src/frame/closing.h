@@ -8,8 +8,12 @@ namespace kite::frame {
 
 struct DialogActions {
     bool (*abandon)();  // throws away a dialog under construction, if there is one
+    void (*restart)();  // the frame is taken back to its beginning
     void (*noteCode)(Widget top, int code);  // the top window is closed with this code
 };
 void setDialogActions(const DialogActions& actions);
+
+// For guiRestart.
+void restartDialogs();
 
 }  // namespace kite::frame

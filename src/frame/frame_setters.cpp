@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "frame/app_info.h"
+#include "frame/closing.h"
 #include "frame/decoration.h"
 #include "frame/dispatcher.h"
 #include "frame/hover.h"
@@ -148,6 +149,7 @@ int guiMoveWin(int x, int y, int w, int h)
 int guiRestart(void)
 {
     dispatcher::setStarted(false);
+    frame::restartDialogs();
     frame::dropCommands();
     if (!frame::widgets().mainWindow) return 0;
     hover::leave();  // the button that it belongs to goes

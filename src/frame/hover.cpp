@@ -3,7 +3,6 @@
 #include <Xm/Label.h>
 #include <kitegui.h>
 
-#include <optional>
 #include <string>
 
 #include "frame/dispatcher.h"
@@ -23,9 +22,11 @@ constexpr Colour kTipBackground{0xFFFF, 0xFFFF, 0xFFAA};
 struct State {
     int delay = -1;          // set by setDelay
     XtIntervalId timer = 0;  // the one pending time-out, 0 when there is none
-    std::optional<int> id;   // of the control that it will report
-    std::string text;        // else the tip that it will show
-    WidgetRef tip;           // what it has shown, until the pointer leaves
+    bool isTip = false;      // it will show this tip, else report this control
+    std::string text;
+    WidgetRef control;
+    int id = 0;
+    WidgetRef tip;  // what it has shown, until the pointer leaves
 };
 State& state = neverDestroyed<State>();
 
@@ -59,10 +60,15 @@ void showTip(Widget window)
     state.tip.reset(tip);
 }
 
+void reportControl()
+{
+    if (state.control) raise(GUI_EVENT_HOVER, state.id);
+}
+
 void timedOut(XtPointer, XtIntervalId*)
 {
     state.timer = 0;
-    if (state.id) return raise(GUI_EVENT_HOVER, *state.id);
+    if (!state.isTip) return reportControl();
     Widget const window = topWindow();
     if (window && XtIsComposite(window) && XtIsRealized(window)) showTip(window);
 }
@@ -85,14 +91,16 @@ void setDelay(int milliseconds)
 void enterWithTip(const char* tip)
 {
     leave();
-    state.id.reset();
+    state.isTip = true;
     state.text = tip;
     startTimer();
 }
 
-void enterControl(int id)
+void enterControl(Widget control, int id)
 {
     leave();
+    state.isTip = false;
+    state.control.reset(control);
     state.id = id;
     startTimer();
 }

@@ -12,8 +12,8 @@ void setDelay(int milliseconds);
 // The pointer entered a button with this tip: shows it after the delay.
 void enterWithTip(const char* tip);
 
-// The pointer entered a control: reports it to the host after the delay.
-void enterControl(int id);
+// The pointer entered a control: reports it to the host after the delay, when the control is still there.
+void enterControl(Widget control, int id);
 
 // The pointer left: takes away a tip that waits or is shown.
 void leave();

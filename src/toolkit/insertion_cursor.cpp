@@ -13,16 +13,21 @@ void gainedFocus(Widget text, XtPointer, XtPointer)
 
 void lostFocus(Widget text, XtPointer, XtPointer)
 {
-    XtVaSetValues(text, XmNcursorPositionVisible, False, nullptr);
+    hideInsertionCursor(text);
 }
 
 }  // namespace
 
 void showInsertionCursorWithFocus(Widget text)
 {
-    XtVaSetValues(text, XmNcursorPositionVisible, False, nullptr);
+    hideInsertionCursor(text);
     XtAddCallback(text, XmNfocusCallback, gainedFocus, nullptr);
     XtAddCallback(text, XmNlosingFocusCallback, lostFocus, nullptr);
+}
+
+void hideInsertionCursor(Widget text)
+{
+    XtVaSetValues(text, XmNcursorPositionVisible, False, nullptr);
 }
 
 }  // namespace kite

@@ -8,4 +8,7 @@ namespace kite {
 
 void showInsertionCursorWithFocus(Widget text);
 
+// A text that is made insensitive is not told that it loses the focus.
+void hideInsertionCursor(Widget text);
+
 }  // namespace kite

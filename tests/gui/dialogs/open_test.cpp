@@ -104,14 +104,28 @@ GUI_TEST(OpenDialog, WantsAStartedSystemBeforeAllElse)
 {
     recorder.onEvent(GUI_EVENT_COMMAND, 1, [&] {
         buildDialog();
-        guiRestart();
-        EXPECT_MISUSE(guiDialog("Second"), kNotStarted, -1);
         EXPECT_EQ(guiStartDialog(), 0);
+        guiRestart();
         EXPECT_MISUSE(guiDialog("Second"), kNotStarted, -1);
         guiClose(0);
     });
     raiseEvent(GUI_EVENT_COMMAND, 1);
     EXPECT_FALSE(board());
+}
+
+// The frame begins anew, and what the host has built so far is gone.
+GUI_TEST(OpenDialog, IsThrownAwayByARestart)
+{
+    recorder.onEvent(GUI_EVENT_COMMAND, 1, [&] {
+        buildDialog();
+        guiRestart();
+        EXPECT_FALSE(board());
+        EXPECT_MISUSE(guiLabel(1, 0, 0, 10, "a"), "Label: no dialog is built at the moment", -1);
+        EXPECT_MISUSE(guiRunDialog(nullptr), "RunDialog: no prepared dialog", -1);
+    });
+    raiseEvent(GUI_EVENT_COMMAND, 1);
+    buildDialog();
+    EXPECT_EQ(runWhileShown([](Shown) {}), 1);
 }
 
 GUI_TEST(OpenDialog, NothingIsPreparedByARefusedCall)

@@ -116,9 +116,6 @@ GUI_TEST(Range, OfATextIsItsLongestLength)
 GUI_TEST(Range, AtTheEndsOfTheNumbersIsSurvived)
 {
     const int numbers[] = {INT_MIN, INT_MIN + 1, -1, 0, 1, 2, INT_MAX - 1, INT_MAX};
-    const ExpectedWarning tooWide{"cannot be greater than INT_MAX / 2"};
-    const ExpectedWarning ofTheValue{"The specified scale value is"};
-    const ExpectedWarning ofTheMinimum{"The minimum scale value is greater"};
     runDialog({.build = buildSimpleKinds, .fill = makeOtherKinds, .look = [&](Shown) {
                    for (const Kind kind : {Slider, Progress, Spin, Edit, MultiLine}) {
                        for (const int min : numbers)
@@ -134,6 +131,27 @@ GUI_TEST(Range, AtTheEndsOfTheNumbersIsSurvived)
                    EXPECT_EQ(valuesOf(Slider).most, 99);
                    EXPECT_EQ(valuesOf(Spin).most, 100);
                }});
+}
+
+// All that the toolkit can do is half of the numbers.
+GUI_TEST(Range, OfAScaleThatIsTooWideChangesNothing)
+{
+    withKinds([&] {
+        for (const Kind kind : {Slider, Progress}) {
+            guiSetRange(kind, 1, 50);
+            const Values before = valuesOf(kind);
+            for (const auto& [min, max] : {std::pair{INT_MIN, 0},
+                                           {INT_MIN, -5},
+                                           {0, INT_MAX},
+                                           {INT_MIN, INT_MAX},
+                                           {1, INT_MAX / 2 + 2}}) {
+                guiSetRange(kind, min, max);
+                EXPECT_EQ(valuesOf(kind), before) << kind << ' ' << min << ' ' << max;
+            }
+            guiSetRange(kind, 1, INT_MAX / 2 + 1);
+            EXPECT_EQ(valuesOf(kind).most, INT_MAX / 2);
+        }
+    });
 }
 
 GUI_TEST(Range, ThatIsNoneChangesNothing)

@@ -144,6 +144,55 @@ GUI_TEST(Edit, ThatIsHiddenShowsNothing)
         });
 }
 
+// Not even in grey, and what it looked like before comes back.
+GUI_TEST(Edit, ThatIsHiddenShowsNothingWhileItIsDisabled)
+{
+    runDialog(
+        [] {
+            guiCheck(4, 0, 0, 40, "Check");
+            guiEdit(3, 1, 0, 80, 1, 0);
+        },
+        [](Shown) {
+            ASSERT_TRUE(screen::waitUntilPainted(controlOf(3)));
+            const screen::Picture before = screen::grab(controlOf(3));
+            guiSetText(3, "secret");
+            for (int i = 0; i < 2; ++i) {
+                guiEnable(3, 0);
+                guiEnable(3, 0);
+                settle();
+                EXPECT_TRUE(isBlank(controlOf(3)));
+                guiEnable(3, 1);
+                settle();
+                EXPECT_EQ(screen::grab(controlOf(3)), before);
+            }
+            guiEnable(3, 0);  // and goes with its dialog
+        });
+}
+
+GUI_TEST(Edit, ThatIsDisabledHasNoCursor)
+{
+    runDialog(
+        [] {
+            guiEdit(3, 0, 0, 80, 0, 0);
+            guiEdit(4, 1, 0, 80, 0, 0);
+        },
+        [](Shown dialog) {
+            const auto hasCursor = [](int id) {
+                return resource<Boolean>(controlOf(id), XmNcursorPositionVisible) == True;
+            };
+            EXPECT_TRUE(wm::waitForFocus(dialog.widget()));
+            EXPECT_TRUE(pumpUntil([&] { return hasCursor(3); }));
+            guiEnable(3, 0);
+            EXPECT_TRUE(pumpUntil([&] { return hasCursor(4); }));
+            EXPECT_FALSE(hasCursor(3));
+            guiEnable(3, 1);
+            settle();
+            EXPECT_FALSE(hasCursor(3));
+            guiSetFocus(3);
+            EXPECT_TRUE(pumpUntil([&] { return hasCursor(3) && !hasCursor(4); }));
+        });
+}
+
 GUI_TEST(Edit, ShowsTheCursorWhileItHasTheKeyboard)
 {
     runDialog(

@@ -137,6 +137,16 @@ GUI_STARTUP_TEST(Hover, EndsWhenThePointerLeaves)
     });
 }
 
+GUI_STARTUP_TEST(Hover, EndsWithTheControl)
+{
+    runWithDelay("0.4", [](Shown) {
+        enter(kCheck);
+        settle();
+        XtDestroyWidget(controlOf(kCheck));
+        EXPECT_TRUE(nothingComes(kBehindTheDelay));
+    });
+}
+
 GUI_STARTUP_TEST(Hover, EndsWhenTheControlIsOperated)
 {
     runWithDelay("0.4", [this](Shown) {
