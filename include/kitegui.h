@@ -193,7 +193,8 @@ KITEGUI_API int guiMoveWin(int x, int y, int w, int h);
  * Takes the frame back to its state before the host built its commands: the building of menus begins
  * again at the menu bar (menus that stand there stay), the toolbar is empty, the title is the application
  * title, the Output area is cleared (of the selected text only, when some is selected), the status line
- * and the gauge are blank. The next event delivered is followed by GUI_EVENT_INIT again. Returns 0.
+ * and the gauge are blank; a dialog under construction is thrown away. The next event delivered is followed
+ * by GUI_EVENT_INIT again. Returns 0.
  */
 KITEGUI_API int guiRestart(void);
 
@@ -641,9 +642,9 @@ KITEGUI_API int guiGetChoiceHeight(void);   /* 12 */
  * control id %d", checked in this order; and "%s: cannot create control %d" when the toolkit fails. They
  * return 0 then -1; hosts need not look at it.
  *
- * Every control that takes the keyboard is a stop of the Tab key, in the order of creation. All controls
- * but lines and anonymous labels report GUI_EVENT_HOVER; those that take the keyboard, and images, also
- * GUI_EVENT_HELP and GUI_EVENT_KEY.
+ * The Tab key goes to edits, buttons, check boxes and radio buttons, in the order of creation; an image takes
+ * the keyboard when it is clicked. These five report GUI_EVENT_HELP and GUI_EVENT_KEY, and all controls but
+ * lines and anonymous labels GUI_EVENT_HOVER.
  * ------------------------------------------------------------------------------------------ */
 
 /* A text. 8 units high. */
