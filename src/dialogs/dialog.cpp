@@ -4,8 +4,6 @@
 #include <Xm/DialogS.h>
 #include <kitegui.h>
 
-#include <string>
-
 #include "boxes/misuse.h"
 #include "dialogs/building.h"
 #include "dialogs/dialog_font.h"
@@ -14,7 +12,6 @@
 #include "frame/deferred_start.h"
 #include "frame/dispatcher.h"
 #include "frame/frame_fonts.h"
-#include "frame/hover.h"
 #include "frame/top_window.h"
 #include "toolkit/compound_string.h"
 #include "toolkit/displayable_text.h"
@@ -28,12 +25,7 @@ namespace {
 
 void closeRequested(Widget, XtPointer board, XtPointer)
 {
-    hover::cancel();
-    // While an inner dialog or box is open, the dialog behind it cannot be closed.
-    if (topWindow() == board)
-        raise(GUI_EVENT_COMMAND, GUI_COMMAND_CLOSE);
-    else
-        guiBeep();
+    frame::answerCloseRequest(static_cast<Widget>(board));
 }
 
 Widget createShell(const char* title)

@@ -11,7 +11,6 @@
 #include "frame/timer.h"
 #include "frame/top_window.h"
 #include "toolkit/nested_loop.h"
-#include "toolkit/never_destroyed.h"
 #include "toolkit/shells.h"
 #include "toolkit/widget_ref.h"
 

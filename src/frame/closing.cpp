@@ -10,7 +10,7 @@
 #include "boxes/misuse.h"
 #include "frame/decoration.h"
 #include "frame/dispatcher.h"
-#include "frame/frame_fonts.h"
+#include "frame/hover.h"
 #include "frame/log_file.h"
 #include "frame/main_frame.h"
 #include "frame/settings.h"
@@ -55,6 +55,15 @@ void closeTopWindow(int code)
 }
 
 }  // namespace
+
+void answerCloseRequest(Widget window)
+{
+    hover::cancel();
+    if (topWindow() == window)
+        raise(GUI_EVENT_COMMAND, GUI_COMMAND_CLOSE);
+    else
+        guiBeep();
+}
 
 void setDialogActions(const DialogActions& actions)
 {

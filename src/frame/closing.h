@@ -1,10 +1,14 @@
-// closing.h: what guiClose does to dialogs, which lie above the frame.
+// closing.h: requests to close a window, and what guiClose does to dialogs, which lie above the frame.
 
 #pragma once
 
 #include <X11/Intrinsic.h>
 
 namespace kite::frame {
+
+// The window manager has asked to close the frame or a dialog. While another dialog or a box is open, those
+// behind it cannot be closed: the bell rings.
+void answerCloseRequest(Widget window);
 
 struct DialogActions {
     bool (*abandon)();  // throws away a dialog under construction, if there is one

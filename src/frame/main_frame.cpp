@@ -8,6 +8,7 @@
 #include <cstdlib>
 
 #include "frame/app_info.h"
+#include "frame/closing.h"
 #include "frame/decoration.h"
 #include "frame/dispatcher.h"
 #include "frame/frame_fonts.h"
@@ -57,12 +58,7 @@ savedGeometry::Size screenSize()
 
 void closeRequested(Widget, XtPointer, XtPointer)
 {
-    hover::cancel();
-    // While a dialog or box is open, the frame behind it cannot be closed.
-    if (topWindow() == mainWindow())
-        raise(GUI_EVENT_COMMAND, GUI_COMMAND_CLOSE);
-    else
-        guiBeep();
+    answerCloseRequest(mainWindow());
 }
 
 constexpr Widget Widgets::*kParts[] = {&Widgets::shell,     &Widgets::mainWindow, &Widgets::menuBar,

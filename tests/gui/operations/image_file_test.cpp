@@ -6,17 +6,6 @@
 
 using namespace kite::testing;
 
-namespace {
-
-void buildPictured()
-{
-    guiImage(1, 0, 3, 0, 40, 1);
-    guiImage(2, 0, 3, 60, 40, 0);
-    guiButton(3, 4, 0, 60, "Text", 0);
-}
-
-}  // namespace
-
 GUI_TEST(ImageFile, ThatCannotBeLoadedClearsThePicture)
 {
     const std::string good = patternFile("good.bmp", 10, 10);

@@ -14,13 +14,6 @@ unsigned pixmaps()
     return serverResources(toolkit::display())["PIXMAP"];
 }
 
-void buildPictured()
-{
-    guiImage(1, 0, 3, 0, 40, 1);
-    guiImage(2, 0, 3, 60, 40, 0);
-    guiButton(3, 4, 0, 60, "Text", 0);
-}
-
 constexpr int kControls[] = {1, 2, 3};
 
 }  // namespace

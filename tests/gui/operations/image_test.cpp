@@ -9,14 +9,6 @@ using namespace kite::testing;
 
 namespace {
 
-// 1 is a framed image, 2 one without a frame, 3 a push button.
-void buildPictured()
-{
-    guiImage(1, 0, 3, 0, 40, 1);
-    guiImage(2, 0, 3, 60, 40, 0);
-    guiButton(3, 4, 0, 60, "Text", 0);
-}
-
 void whileShown(const std::function<void(Shown)>& look)
 {
     runDialog({.build = buildPictured, .look = look});

@@ -16,6 +16,13 @@ screen::Picture insideOf(Widget control)
 
 }  // namespace
 
+void buildPictured()
+{
+    guiImage(1, 0, 3, 0, 40, 1);
+    guiImage(2, 0, 3, 60, 40, 0);
+    guiButton(3, 4, 0, 60, "Text", 0);
+}
+
 screen::Colour patternAt(int x, int y)
 {
     const auto channel = [](int number) { return static_cast<std::uint8_t>(number % 256); };

@@ -9,6 +9,9 @@
 
 namespace kite::testing {
 
+// Constructs the controls that show pictures: 1 is a framed image, 2 one without a frame, 3 a push button.
+void buildPictured();
+
 // No two neighbouring pixels are alike, so that every shift shows.
 screen::Colour patternAt(int x, int y);
 
