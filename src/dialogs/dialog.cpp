@@ -49,9 +49,11 @@ Widget createBoard(Widget shell, const char* title)
 
 XmFontList fontOf(Widget board)
 {
-    frameFonts::apply(board, frameFonts::Use::Dialog);
-    if (XmFontList const font = frameFonts::of(board, frameFonts::Use::Dialog)) return font;
-    return resource<XmFontList>(board, XmNlabelFontList);
+    XmFontList const font = frameFonts::of(board, frameFonts::Use::Dialog);
+    if (!font) return resource<XmFontList>(board, XmNlabelFontList);
+    XtVaSetValues(board, XmNlabelFontList, font, XmNbuttonFontList, font, XmNtextFontList, font,
+                  nullptr);
+    return font;
 }
 
 // -1 after an error box; the shell goes with what was made in it.

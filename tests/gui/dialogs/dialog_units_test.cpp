@@ -108,7 +108,7 @@ GUI_STARTUP_TEST(DialogUnits, GrowWithTheToolkitsFontWhenThereIsNone)
     });
 }
 
-// The controls write in the font that they are measured with.
+// The controls write in the font that they are measured with; so does what a host adds to the board by itself.
 GUI_STARTUP_TEST(DialogUnits, AreThoseOfTheFontOfAllControls)
 {
     host.profile().setString("fnamm", kLargeFont);
@@ -119,9 +119,10 @@ GUI_STARTUP_TEST(DialogUnits, AreThoseOfTheFontOfAllControls)
         guiButton(3, 2, 0, 50, "Button", 0);
         guiCheck(4, 3, 0, 50, "Check");
         guiRadio(5, 4, 0, 50, "Radio");
+        const std::string large = "-Misc-Fixed-Medium-R-Normal--20-200-75-75-C-100-ISO8859-1";
         for (int id = 1; id <= 5; ++id)
-            EXPECT_EQ(nameOfFirstFont(resource<XmFontList>(control(id), XmNfontList)),
-                      "-Misc-Fixed-Medium-R-Normal--20-200-75-75-C-100-ISO8859-1")
-                << id;
+            EXPECT_EQ(nameOfFirstFont(resource<XmFontList>(control(id), XmNfontList)), large) << id;
+        for (const char* const list : {XmNlabelFontList, XmNbuttonFontList, XmNtextFontList})
+            EXPECT_EQ(nameOfFirstFont(resource<XmFontList>(board(), list)), large) << list;
     });
 }
