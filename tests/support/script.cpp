@@ -3,6 +3,7 @@
 #include "script.h"
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 #include "connection.h"
@@ -48,12 +49,13 @@ void Script::forgetHidden()
 
 Step Script::shown(const std::string& name, const std::function<void(Shown)>& action)
 {
-    return {name + " is shown", [this, name] { return newlyShown(name) != nullptr; },
-            [this, name, action] {
-                Widget const widget = newlyShown(name);
-                if (!widget) return;
-                handled_.push_back(windowOf(widget));
-                action(Shown{widget});
+    // What the condition has found: to look again may find that there is something to paint once more.
+    const auto found = std::make_shared<Widget>(nullptr);
+    return {name + " is shown",
+            [this, name, found] { return (*found = newlyShown(name)) != nullptr; },
+            [this, action, found] {
+                handled_.push_back(windowOf(*found));
+                action(Shown{*found});
             }};
 }
 
