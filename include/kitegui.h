@@ -25,7 +25,7 @@
  *   - Order: guiSetAppInfo (optional), guiInit, guiStart. A call that needs the frame and comes
  *     before guiInit, or after the frame was closed, does nothing and returns its failure value.
  *   - Strings: null-terminated bytes in the encoding of the fonts in use (ISO 8859-1 by default). A
- *     host that calls setlocale gets that locale's encoding in text fields, as in all of Motif.
+ *     host that calls setlocale gets that locale's encoding in text fields and titles, as in all of Motif.
  *     The library copies what it keeps. A null pointer is safe wherever a string is taken; each
  *     function says what it means.
  *   - Buffers: (char *buffer, int size) receive at most size - 1 bytes and are always terminated.
@@ -100,7 +100,8 @@ enum {
     GUI_EVENT_SELECT = 25,       /* id, index from 0, 1 for a double click or 0 for a selection: list, tree */
     GUI_EVENT_CURSOR = 26,       /* id, line from 0 (-1 when empty), column from 0: a multi-line text changed */
     GUI_EVENT_KEY = 27,          /* -1, key code (below), 1 with Control held: a special key in a control */
-    GUI_EVENT_LEFT = 41,         /* id, 1, 0: a control lost the keyboard focus; delivered late */
+    GUI_EVENT_LEFT = 41,         /* id, 1, 0: a control lost the keyboard focus; delivered late: when a dialog
+                                    is closed with the focus in an edit, to the window behind it */
     GUI_EVENT_TIMER = 51,        /* 0, 0, 0: the periodic timer of guiTimer */
     GUI_EVENT_HELP = 61,         /* id, 0, 0: help was requested on a control */
     GUI_EVENT_CONTEXT = 62,      /* id, x, y: mouse button 3 was released on a control */
@@ -713,8 +714,9 @@ KITEGUI_API int guiIdStatus(int id);
 KITEGUI_API void guiEnable(int id, int enable);
 
 /*
- * Gives the keyboard to a control; during GUI_EVENT_INIT: when the dialog is shown. Not for labels, lines,
- * images and progress bars.
+ * Gives the keyboard to a control; during GUI_EVENT_INIT: when the dialog is shown. In the handler of
+ * GUI_EVENT_LEFT it sends the user back; no GUI_EVENT_LEFT comes of that. Not for labels, lines, images and
+ * progress bars.
  */
 KITEGUI_API void guiSetFocus(int id);
 

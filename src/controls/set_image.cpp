@@ -1,7 +1,6 @@
 // set_image.cpp: gives an image control or a push button its picture.
 
-#include <Xm/Label.h>
-#include <Xm/ToggleB.h>
+#include <Xm/Xm.h>
 #include <kitegui.h>
 
 #include <algorithm>
@@ -70,17 +69,6 @@ images::Picture load(Screen* screen, const char* fileName, Pixel background)
     return picture;
 }
 
-// The toolkit paints a control that is not sensitive without a picture: none is made for that. A toggle button
-// takes its first picture for its indeterminate state as well, and would keep asking for that one's size.
-void show(Widget control, Pixmap picture)
-{
-    XtVaSetValues(control, XmNlabelType, XmPIXMAP, XmNlabelPixmap, picture, XmNselectPixmap,
-                  picture, XmNindeterminatePixmap, picture, XmNlabelInsensitivePixmap,
-                  XmUNSPECIFIED_PIXMAP, XmNselectInsensitivePixmap, XmUNSPECIFIED_PIXMAP, nullptr);
-    keepShownPicture(control, picture);
-    paintNow(control);
-}
-
 // A control without a picture is cleared, also when the new one cannot be loaded.
 int setImage(const Control& control, const char* fileName)
 {
@@ -94,7 +82,8 @@ int setImage(const Control& control, const char* fileName)
     if (picture && control.type == ControlType::Image) pixmap = fitted(screen, picture, area);
     if (!shown) return GUI_FAILED;  // the box has waited meanwhile
     const bool hasPicture = pixmap.get() != None;
-    show(shown.get(), hasPicture ? pixmap.release() : XmUNSPECIFIED_PIXMAP);
+    showPicture(control.widget, hasPicture ? pixmap.release() : XmUNSPECIFIED_PIXMAP);
+    paintNow(control.widget);
     return hasPicture || !isGiven(fileName) ? 0 : GUI_FAILED;
 }
 

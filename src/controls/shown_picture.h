@@ -5,11 +5,9 @@
 
 #include <X11/Intrinsic.h>
 
-#include "toolkit/pixmaps.h"
-
 namespace kite {
 
-// The control shows this picture now; XmUNSPECIFIED_PIXMAP for none.
-void keepShownPicture(Widget control, Pixmap picture);
+// The control shows this picture, and owns it; XmUNSPECIFIED_PIXMAP for none.
+void showPicture(Widget control, Pixmap picture);
 
 }  // namespace kite

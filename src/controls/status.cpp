@@ -1,11 +1,12 @@
 // status.cpp: whether controls can be operated and seen, and which of them has the keyboard.
 
-#include <Xm/Xm.h>
+#include <X11/Intrinsic.h>
 #include <kitegui.h>
 
 #include "controls/control_lookup.h"
 #include "controls/hidden_text.h"
 #include "dialogs/dialog_run.h"
+#include "dialogs/late_focus.h"
 #include "frame/dispatcher.h"
 #include "toolkit/insertion_cursor.h"
 
@@ -53,7 +54,7 @@ void guiSetFocus(int id)
     if (!control) return;
     const EventsSuppressed quiet;
     dialogRun::requestFocus(control.widget);
-    XmProcessTraversal(control.widget, XmTRAVERSE_CURRENT);
+    moveFocus(control.widget);
 }
 
 void guiSetVisible(int id, int visible)

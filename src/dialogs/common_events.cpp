@@ -3,6 +3,7 @@
 #include <Xm/Xm.h>
 #include <kitegui.h>
 
+#include "dialogs/late_focus.h"
 #include "dialogs/lost_release.h"
 #include "dialogs/special_keys.h"
 #include "frame/dispatcher.h"
@@ -47,7 +48,10 @@ void focusChanged(Widget control, XtPointer, XEvent* event, Boolean*)
     hover::cancel();
     const int loopsBefore = loopsBegun();
     const WidgetRef gained{control};
-    focusLeave::controlGainedFocus();
+    {
+        const FocusMoving scope;
+        focusLeave::controlGainedFocus();
+    }
     if (gained && loopsBegun() != loopsBefore) letGoLater(control);
 }
 

@@ -10,6 +10,7 @@
 #include "toolkit/colours.h"
 #include "toolkit/compound_string.h"
 #include "toolkit/never_destroyed.h"
+#include "toolkit/shells.h"
 #include "toolkit/widget_ref.h"
 
 namespace kite::hover {
@@ -60,9 +61,11 @@ void showTip(Widget window)
     state.tip.reset(tip);
 }
 
+// A dialog or box may have come up meanwhile, and its handler knows other ids.
 void reportControl()
 {
-    if (state.control) raise(GUI_EVENT_HOVER, state.id);
+    Widget const control = state.control.get();
+    if (control && shellOf(control) == shellOf(topWindow())) raise(GUI_EVENT_HOVER, state.id);
 }
 
 void timedOut(XtPointer, XtIntervalId*)

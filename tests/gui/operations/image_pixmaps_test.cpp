@@ -117,3 +117,24 @@ GUI_TEST(ImagePixmaps, ClosedDialogsFreeTheirs)
     const unsigned before = show(false);
     for (int i = 0; i < 3; ++i) EXPECT_EQ(show(true), before);
 }
+
+// The toolkit makes a grey picture of each that it paints on a disabled button.
+GUI_TEST(ImagePixmaps, GreyOnesAreFreedToo)
+{
+    const std::string good = patternFile("good.bmp", 12, 12);
+    const auto run = [&](int pictures) {
+        runDialog({.build = buildPictured, .look = [&](Shown) {
+                       for (int i = 0; i < pictures; ++i) {
+                           EXPECT_EQ(guiSetImage(3, good.c_str()), 0);
+                           guiEnable(3, i % 2);
+                           settle();
+                           guiEnable(3, 0);
+                           settle();
+                       }
+                   }});
+        return pixmaps();
+    };
+    run(0);
+    const unsigned before = run(0);
+    for (const int pictures : {1, 2, 5}) EXPECT_EQ(run(pictures), before) << pictures;
+}

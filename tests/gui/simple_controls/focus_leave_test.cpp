@@ -171,3 +171,27 @@ GUI_TEST(FocusLeave, MayCloseTheDialog)
         });
     }
 }
+
+// What was typed is wrong: the handler sends the user back, whatever took the keyboard away.
+GUI_TEST(FocusLeave, MaySendTheUserBack)
+{
+    recorder.onEvent(GUI_EVENT_LEFT, 1, [](const Event& event) {
+        if (event.handler == Handler::Dialog) guiSetFocus(1);
+    });
+    runDialog(build, [&](Shown dialog) {
+        const auto sendsBack = [&](const std::function<void()>& leave) {
+            EXPECT_THAT(eventsDuring([&] {
+                            leave();
+                            EXPECT_TRUE(pumpUntil([] { return hasFocus(1); }));
+                            EXPECT_TRUE(holdsFor([] { return hasFocus(1); }, milliseconds{100}));
+                        }),
+                        ::testing::Contains(kLeft1).Times(1));
+        };
+        sendsBack([&] { dialog.key(XK_Tab); });
+        sendsBack([&] { robot.click(controlOf(2)); });
+        sendsBack([&] { robot.click(controlOf(4)); });
+        dialog.type("x");
+        EXPECT_EQ(textOf(controlOf(1)), "x");
+        EXPECT_EQ(recorder.count(kLeft2), 0);
+    });
+}

@@ -147,6 +147,20 @@ GUI_STARTUP_TEST(Hover, EndsWithTheControl)
     });
 }
 
+// The handler of the window on top knows other ids.
+GUI_STARTUP_TEST(Hover, IsNotReportedUnderABox)
+{
+    runWithDelay("0.4", [this](Shown) {
+        enter(kCheck);
+        settle();
+        app.whenShown("v_infobox", [](Shown box) {
+            EXPECT_TRUE(nothingComes(kBehindTheDelay));
+            box.key(XK_Return);
+        });
+        guiInfoBox("In between");
+    });
+}
+
 GUI_STARTUP_TEST(Hover, EndsWhenTheControlIsOperated)
 {
     runWithDelay("0.4", [this](Shown) {
