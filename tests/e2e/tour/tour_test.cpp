@@ -24,11 +24,12 @@ public:
                          Process::Environment{{"KITE_PROFILE", path("profile")}});
     }
 
-    // Once it has the keyboard; 0 when it does not come.
+    // Once it has the keyboard and takes commands; 0 when it does not come.
     Window window() const
     {
         const Window window = wm::waitForWindow("kitegui tour");
-        return window && wm::waitForFocus(window) ? window : 0;
+        if (!window || !waitUntilLogged("Welcome")) return 0;
+        return hasMovingGauge(window) && wm::waitForFocus(window) ? window : 0;
     }
 
     std::string path(const std::string& name) const { return directory_.path() / name; }
@@ -48,6 +49,14 @@ public:
     Process& program() { return *program_; }
 
 private:
+    // Its timer feeds it, from the main loop.
+    static bool hasMovingGauge(Window window)
+    {
+        const auto look = [=] { return screen::grab(wm::clientRect(window)); };
+        const screen::Picture before = look();
+        return pumpUntil([&] { return look() != before; });
+    }
+
     TemporaryDirectory directory_{"tour"};
     std::optional<Process> program_;
 };

@@ -135,7 +135,10 @@ GUI_TEST(Edit, ThatIsHiddenShowsNothing)
             EXPECT_TRUE(isBlank(controlOf(3))) << "typed";
             EXPECT_TRUE(holdsFor([] { return isBlank(controlOf(3)); }, kSeveralBlinks)) << "cursor";
             robot.doubleClick(controlOf(3), LeftButton, Point{20, 10});
-            EXPECT_TRUE(pumpUntil([] { return XmTextGetSelection(controlOf(3)) != nullptr; }));
+            EXPECT_TRUE(pumpUntil([] {
+                XmTextPosition left = 0, right = 0;
+                return XmTextGetSelectionPosition(controlOf(3), &left, &right) && left != right;
+            }));
             settle();
             EXPECT_TRUE(isBlank(controlOf(3))) << "selected";
             dialog.key(XK_Tab);
