@@ -4,13 +4,30 @@
 #include <kitegui.h>
 
 #include <algorithm>
+#include <string_view>
 
 #include "boxes/misuse.h"
-#include "toolkit/line_starts.h"
 #include "toolkit/text_copy.h"
 #include "toolkit/text_positions.h"
 
 namespace kite {
+
+namespace {
+
+// Behind that many line ends; the end of the text when there are fewer. Takes no memory, other than an index
+// of all lines.
+std::size_t behindLineEnds(std::string_view text, int lineEnds)
+{
+    std::size_t start = 0;
+    for (int passed = 0; passed < lineEnds; ++passed) {
+        const std::size_t end = text.find('\n', start);
+        if (end == std::string_view::npos) return text.size();
+        start = end + 1;
+    }
+    return start;
+}
+
+}  // namespace
 
 std::optional<int> topLineOf(Widget text)
 {
@@ -29,8 +46,7 @@ std::optional<XmTextPosition> startOfLine(Widget text, int line)
         return std::nullopt;
     }
     if (copy.length == 0) return std::nullopt;
-    const LineStarts lines{copy.view()};
-    return positionsIn(copy.view().substr(0, lines.behindLineEnds(line)));
+    return positionsIn(copy.view().substr(0, behindLineEnds(copy.view(), line)));
 }
 
 }  // namespace kite

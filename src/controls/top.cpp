@@ -4,9 +4,6 @@
 #include <Xm/Text.h>
 #include <kitegui.h>
 
-#include <algorithm>
-#include <climits>
-
 #include "controls/control_lookup.h"
 #include "controls/list_top.h"
 #include "controls/text_lines.h"
