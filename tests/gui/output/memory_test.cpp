@@ -1,28 +1,11 @@
-// What a host is told when there is no memory. This program is asked for all that the library takes.
+// What a host is told when there is no memory.
 
-#include <cstdlib>
-#include <new>
-
+#include "no_memory.h"
 #include "output_support.h"
 
 using namespace kite::testing;
 
 namespace {
-
-constexpr std::size_t kLarge = 100000;
-
-bool isExhausted = false;  // for pieces of that size and more
-
-void* allocate(std::size_t size)
-{
-    return isExhausted && size >= kLarge ? nullptr : std::malloc(size ? size : 1);
-}
-
-class Exhausted {
-public:
-    Exhausted() { isExhausted = true; }
-    ~Exhausted() { isExhausted = false; }
-};
 
 void fill(char byte)
 {
@@ -30,47 +13,6 @@ void fill(char byte)
 }
 
 }  // namespace
-
-void* operator new(std::size_t size)
-{
-    if (void* const piece = allocate(size)) return piece;
-    throw std::bad_alloc{};
-}
-
-void* operator new[](std::size_t size)
-{
-    return operator new(size);
-}
-
-void* operator new(std::size_t size, const std::nothrow_t&) noexcept
-{
-    return allocate(size);
-}
-
-void* operator new[](std::size_t size, const std::nothrow_t&) noexcept
-{
-    return allocate(size);
-}
-
-void operator delete(void* piece) noexcept
-{
-    std::free(piece);
-}
-
-void operator delete[](void* piece) noexcept
-{
-    std::free(piece);
-}
-
-void operator delete(void* piece, std::size_t) noexcept
-{
-    std::free(piece);
-}
-
-void operator delete[](void* piece, std::size_t) noexcept
-{
-    std::free(piece);
-}
 
 GUI_TEST(OutOfMemory, IsReportedByEveryReader)
 {
