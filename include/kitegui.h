@@ -824,15 +824,15 @@ enum {
  *                              and helvetica
  *          null or ""          neither
  *
- * Every call first sets the text of labels, buttons, check boxes and radio buttons to black; that of edits (hidden
- * ones can be read then), choices, lists, combo boxes, trees and spin boxes to black on white; and the filled
- * part of progress bars to black. For a progress bar the colour of the text is that of the filled part. Colours
- * change no font. What cannot be read of a colour, or a font that the server does not have, changes nothing
- * more.
+ * Every call first sets the text of labels, buttons, check boxes and radio buttons to black; that of edits
+ * (hidden ones can be read then), choices, lists, combo boxes, trees and spin boxes to black on white; and the
+ * filled part of progress bars to black. For a progress bar the colour of the text is that of the filled part.
+ * Colours change no font. What cannot be read of a colour, or a font that the server does not have, changes
+ * nothing more.
  *
- * Behind all but colours a label, edit, button, check box, radio button or spin box becomes higher when its
- * font is higher than the dialog's; no control becomes lower. Fonts stay loaded until the display is closed.
- * Misuse is shown as "SetText: ...".
+ * Behind all but colours a label, edit, button, check box, radio button or spin box is made as high as its
+ * font needs when that is higher than the dialog's; else it stays as high as it is, and so do all other
+ * controls. Fonts stay loaded until the display is closed. Misuse is shown as "SetText: ...".
  */
 KITEGUI_API void guiSetTextAtt(int id, char flags, const char *attr);
 
