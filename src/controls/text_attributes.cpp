@@ -123,12 +123,21 @@ std::string nameOfFont(const TextAttribute& attribute)
     }
 }
 
+// The toolkit does it for a distance that changes, not for an item.
+void placeItems(Widget tree)
+{
+    const auto indentation = resource<Dimension>(tree, XmNoutlineIndentation);
+    for (const int distance : {indentation + 1, +indentation})
+        XtVaSetValues(tree, XmNoutlineIndentation, distance, nullptr);
+}
+
 // A drop-down control hands its font down.
 void setFont(const Control& control, XmFontList font)
 {
     XtVaSetValues(control.widget, XmNfontList, font, nullptr);
     if (kWithDropDown.has(control.type)) return;
     for (Widget const part : partsOf(control)) XtVaSetValues(part, XmNfontList, font, nullptr);
+    if (control.type == Tree) placeItems(control.widget);
 }
 
 void setFont(const Control& control, const TextAttribute& attribute)

@@ -16,6 +16,13 @@ std::string fontOf(Widget widget)
     return fontNameOf(widget, XmNfontList);
 }
 
+// In its parent.
+Rect rectIn(Widget widget)
+{
+    return {resource<Position>(widget, XmNx), resource<Position>(widget, XmNy),
+            resource<Dimension>(widget, XmNwidth), resource<Dimension>(widget, XmNheight)};
+}
+
 void buildLabel()
 {
     guiLabel(1, 0, 0, 60, "Label");
@@ -167,4 +174,28 @@ GUI_TEST(TextAttFonts, ThatAreInstalledLater)
                    guiSetTextAtt(1, 0, kAlias);
                    EXPECT_EQ(fontOf(innerOf(1)), fontNameFor(kSmallest));
                }});
+}
+
+// Each below the one before it, and all of them in the tree.
+GUI_TEST(TextAttFonts, OfATreePlaceItsItemsAnew)
+{
+    runDialog({.fill = [] { makeTree(Tree, numberedItems(5)); },
+               .look =
+                   [](Shown) {
+                       for (const char* font : {kHuge, kSmallest, kCourier}) {
+                           SCOPED_TRACE(font);
+                           guiSetTextAtt(Tree, 0, font);
+                           settle();
+                           int bottom = 0;
+                           for (Widget const item : partsOf(Tree)) {
+                               const Rect place = rectIn(item);
+                               EXPECT_EQ(place.y, bottom);
+                               EXPECT_GE(place.height, heightOf(font));
+                               bottom = place.y + place.height;
+                               EXPECT_LE(place.x + place.width,
+                                         resource<Dimension>(innerOf(Tree), XmNwidth));
+                           }
+                           EXPECT_LE(bottom, resource<Dimension>(innerOf(Tree), XmNheight));
+                       }
+                   }});
 }
