@@ -91,15 +91,15 @@ std::string nameOfFamily(int flags, std::string_view family)
 
 TextAttribute parseTextAttribute(int flags, const char* text)
 {
-    const std::string_view given = text ? text : "";
-    if (given.empty()) return {};
-    switch (given.front()) {
+    if (!text || !*text) return {};
+    switch (*text) {
     case '#':
     case '/': return colours(text);
     case '-':
     case '*': return font(text);
     default: break;
     }
+    const std::string_view given = text;
     if (given == "VEXFIXED") return {Kind::FixedFont, {}, {}, {}};
     if (given == "VEXVARIABLE") return {Kind::VariableFont, {}, {}, {}};
     return font(nameOfFamily(flags, given));
