@@ -884,6 +884,42 @@ KITEGUI_API void guiSetRange(int id, int min, int max);
  */
 KITEGUI_API int guiSetImage(int id, const char *fileName);
 
+/* Flags of guiSetTextAtt, for a font family. */
+enum {
+    GUI_FONT_BOLD = 1,
+    GUI_FONT_ITALIC = 2,
+    GUI_FONT_UNDERLINE = 4,      /* only where the server has such a font */
+    GUI_FONT_LARGE = 8,          /* 18 pixels; without a size it is 14 */
+    GUI_FONT_SMALL = 16          /* 10 pixels; one size at a time is of use */
+};
+
+/*
+ * Gives a control, of any type, colours or a font.
+ *
+ *   flags  GUI_FONT_..., combined; for a font family only
+ *   attr   one of
+ *          "#RRGGBB"           the colour of the text, in hexadecimal digits
+ *          "#RRGGBB/#RRGGBB"   that of the text and the background
+ *          "/#RRGGBB"          the background
+ *          "-..." or "*..."    an X font name or pattern
+ *          "VEXFIXED"          the font of the Output area (profile key "fnamt")
+ *          "VEXVARIABLE"       the font of the status line and of dialogs ("fnamm")
+ *          any other text      a font family: "Times". "Courier New" and "Arial" are the X families courier
+ *                              and helvetica
+ *          null or ""          neither
+ *
+ * Every call first sets the text of labels, buttons, check boxes and radio buttons to black; that of edits
+ * (hidden ones can be read then), choices, lists, combo boxes, trees and spin boxes to black on white; and the
+ * filled part of progress bars to black. For a progress bar the colour of the text is that of the filled part.
+ * Colours change no font. What cannot be read of a colour, or a font that the server does not have, changes
+ * nothing more.
+ *
+ * Behind all but colours a label, edit, button, check box, radio button or spin box is made as high as its
+ * font needs when that is higher than the dialog's; else it stays as high as it is, and so do all other
+ * controls. Fonts stay loaded until the display is closed. Misuse is shown as "SetText: ...".
+ */
+KITEGUI_API void guiSetTextAtt(int id, char flags, const char *attr);
+
 /*
  * Returns the first visible line of a multi-line text, item of a list or row of a tree, from 0. Rows of a tree
  * are the items that can be seen by scrolling: what is below a collapsed item does not count. -1 when the text
