@@ -32,9 +32,12 @@ struct Named {
     const char* attribute;
 };
 
-constexpr Named kFonts[] = {{"Helvetica", "Arial"},          {"Courier", "Courier New"},
-                            {"Times", "Times"},              {"Schoolbook", "new century schoolbook"},
-                            {"The frame's", "VEXVARIABLE"},  {"The output's", "VEXFIXED"}};
+constexpr Named kFonts[] = {{"Helvetica", "Arial"},
+                            {"Courier", "Courier New"},
+                            {"Times", "Times"},
+                            {"Schoolbook", "new century schoolbook"},
+                            {"The frame's", "VEXVARIABLE"},
+                            {"The output's", "VEXFIXED"}};
 
 constexpr Named kColours[] = {{"black on white", "#000000/#ffffff"},
                               {"white on blue", "#ffffff/#000080"},

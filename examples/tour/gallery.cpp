@@ -64,6 +64,18 @@ private:
     int count_ = 0;
 };
 
+// What the tour shows of its current directory.
+void writeSomeFiles()
+{
+    for (const char* const file :
+         {"letters/gas-company.txt", "letters/grandmother.txt", "music/bach/chaconne.mid",
+          "music/bach/invention.mid", "music/folk.mid", "recipes/bread.txt"}) {
+        const std::filesystem::path path{file};
+        std::filesystem::create_directories(path.parent_path());
+        std::ofstream{path} << "Written for the tour: " << file << '\n';
+    }
+}
+
 // Leaves with the Return that answers the question.
 bool leave(Process& tour)
 {
@@ -90,6 +102,7 @@ int main(int argc, char** argv)
     const std::string program = std::filesystem::absolute(argv[2]);
     const TemporaryDirectory files{"gallery"};  // what the tour saves
     std::filesystem::current_path(files.path());
+    writeSomeFiles();
     // Insertion cursors that blink would change the screen for ever.
     const std::string resources = files.path() / "resources";
     std::ofstream{resources} << "*blinkRate: 0\n";

@@ -88,6 +88,15 @@ void restOnDialog()
     robot().moveTo(wm::clientRect(dialog).corner() + Point{30, 28});
 }
 
+// A place in pixels of the dialog.
+std::function<void()> clickedInDialog(const char* title, Point place)
+{
+    return [=] {
+        robot().moveTo(wm::clientRect(wm::waitForWindow(title)).corner() + place);
+        robot().click();
+    };
+}
+
 void leaveToolbar()
 {
     robot().moveTo(wm::clientRect(frame()).centre());
@@ -173,6 +182,51 @@ const std::vector<Step>& gallerySteps()
         {"hover-help-rested", "the pointer rests on the first control", restOnDialog},
         {"hover-help-asked", "F1 asks for help on the edit", key(XK_F1)},
         {"hover-help-closed", "Return closes it", key(XK_Return)},
+        {"tasks", "Control+J lists tasks", key(XK_j, Control)},
+        {"tasks-range", "Shift+Down: two more are selected",
+         [] {
+             robot().key(XK_Down, Shift);
+             robot().key(XK_Down, Shift);
+         }},
+        {"tasks-moved", "Down, and a click on the button Down: that task moves",
+         [] {
+             robot().key(XK_Down);
+             clickedInDialog("Tasks", {288, 60})();
+         }},
+        {"tasks-added", "a task is typed, and Return adds it",
+         [] {
+             for (int tab = 0; tab < 2; ++tab) robot().key(XK_Tab);
+             robot().type("Read a book");
+             robot().key(XK_Return);
+         }},
+        {"tasks-closed", "Escape closes them", key(XK_Escape)},
+        {"files", "Control+F shows the files", key(XK_f, Control)},
+        {"files-expanded", "a click on a mark expands a directory",
+         clickedInDialog("Files", {24, 24})},
+        {"files-selected", "Down: a file in it is selected", keys({XK_Down, XK_Down})},
+        {"files-closed", "Escape closes them", key(XK_Escape)},
+        {"settings", "Control+M shows settings", key(XK_m, Control)},
+        {"settings-dropped", "Control+Down drops the list of a choice down", key(XK_Down, Control)},
+        {"settings-chosen", "Down and Return: another paper", keys({XK_Down, XK_Return})},
+        {"settings-typed", "Tab, and a printer is typed", keysThenText(XK_Tab, "Home ")},
+        {"settings-copies", "Tab, and Up steps the copies", keys({XK_Tab, XK_Up, XK_Up, XK_Up})},
+        {"settings-darkness", "Tab, and Right moves the slider: the bar follows",
+         [] {
+             robot().key(XK_Tab);
+             for (int step = 0; step < 15; ++step) robot().key(XK_Right);
+         }},
+        {"settings-done", "Return takes them", key(XK_Return)},
+        {"letter", "Control+O opens a letter", key(XK_o, Control)},
+        {"letter-typed", "something is typed: line and column are in the status line",
+         keysThenText(XK_Down, "It is Sunday, and")},
+        {"letter-signed", "a button signs it", clickedInDialog("Letter", {165, 312})},
+        {"letter-closed", "Escape closes it", key(XK_Escape)},
+        {"fonts", "Control+X shows fonts and colours", key(XK_x, Control)},
+        {"fonts-courier", "Down: another font", key(XK_Down)},
+        {"fonts-colour", "Tab and Down: other colours", keys({XK_Tab, XK_Down})},
+        {"fonts-large", "Tab and Space: bold and large",
+         keys({XK_Tab, XK_space, XK_Tab, XK_Tab, XK_space})},
+        {"fonts-closed", "Escape closes them", key(XK_Escape)},
         {"icon", "the frame is iconified", [] { wm::iconify(frame()); }},
         {"restored", "and brought back", [] { wm::deiconify(frame()); }},
         {"closing", "Control+Q leaves", key(XK_q, Control)},

@@ -14,13 +14,12 @@ enum Control { Close = GUI_CANCEL_BUTTON, Letter = 1, Insert, Sign, Selected, Li
 
 constexpr int kWidth = 180;  // dialog units
 
-constexpr char kLetter[] =
-    "Dear reader,\n"
-    "\n"
-    "this text can be edited, also on the far\n"
-    "side of a slow network. The status line\n"
-    "of the frame behind shows where the\n"
-    "insertion point is.\n";
+constexpr char kLetter[] = "Dear reader,\n"
+                           "\n"
+                           "this text can be edited, also on the far\n"
+                           "side of a slow network. The status line\n"
+                           "of the frame behind shows where the\n"
+                           "insertion point is.\n";
 
 void build()
 {

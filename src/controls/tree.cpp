@@ -7,7 +7,6 @@
 #include "controls/control_lookup.h"
 #include "controls/tree_items.h"
 #include "frame/dispatcher.h"
-#include "frame/top_window.h"
 #include "toolkit/compound_string.h"
 #include "toolkit/outline.h"
 #include "toolkit/resources.h"
@@ -25,7 +24,7 @@ void addItem(Widget container, int parentKey, int key, const char* text)
     Widget const parent = parentKey == kRoot ? nullptr : guitreefind(container, nullptr, parentKey);
     const CompoundString label{text};
     XtVaCreateManagedWidget("item", xmIconGadgetClass, container, XmNlabelString, label.get(),
-                            XmNfontList, resource<XmFontList>(topWindow(), XmNlabelFontList),
+                            XmNfontList, resource<XmFontList>(container, XmNfontList),
                             XmNentryParent, parent, XmNuserData,
                             reinterpret_cast<XtPointer>(static_cast<std::intptr_t>(key)),
                             XmNshadowThickness, 0, XmNhighlightThickness, 0, nullptr);

@@ -48,6 +48,15 @@ void uncover(Widget scrolled, XtPointer, XtPointer call)
     XmScrollVisible(scrolled, wanted.traversal_destination, 0, 0);
 }
 
+// The toolkit's containers keep the key that cancels a drag to themselves; everywhere else it presses the
+// cancel button of the dialog.
+void passOnCancel(Widget container)
+{
+    static const XtTranslations table =
+        XtParseTranslationTable("<Key>osfCancel: ContainerCancel() ManagerParentCancel()");
+    XtOverrideTranslations(container, table);
+}
+
 void showPicture(Widget container, const char* state, const images::Picture& picture)
 {
     if (picture) XtVaSetValues(container, const_cast<char*>(state), picture.pixmap, nullptr);
@@ -87,6 +96,7 @@ int guiTree(int id, int row, int rows, int x, int width)
         return reportMisuse("Tree: cannot create control %d", id);
     }
 
+    passOnCancel(container);
     reportCommonEvents(container, tag);
     reportScrolling(scrolled, tag);
     scrollByWheel(scrolled);
