@@ -4,13 +4,14 @@ function(kite_precompiled target)
 endfunction()
 
 # kite_gui_tests(NAME target SOURCES file… [LIBRARIES library…] [WM mwm openbox none]
-#                [TIMEOUT seconds] [SCREENS WxHxD…])
+#                [TIMEOUT seconds] [SCREENS WxHxD…] [SEPARATE])
 #
 # A program of GUI tests, and one CTest test for each case of it, each window manager (mwm only when
-# none is named) and each screen (a large one when none is named). TIMEOUT is for one case, 30 by default. The tests run in parallel: each has a display of
-# its own.
+# none is named) and each screen (a large one when none is named). TIMEOUT is for one case, 30 by default.
+# SEPARATE: each file is compiled by itself, since several give the same name to things of their own. The
+# tests run in parallel: each has a display of its own.
 function(kite_gui_tests)
-  cmake_parse_arguments(PARSE_ARGV 0 TEST "" "NAME;TIMEOUT" "SOURCES;LIBRARIES;WM;SCREENS")
+  cmake_parse_arguments(PARSE_ARGV 0 TEST "SEPARATE" "NAME;TIMEOUT" "SOURCES;LIBRARIES;WM;SCREENS")
   if(NOT TEST_WM)
     set(TEST_WM mwm)
   endif()
@@ -25,6 +26,9 @@ function(kite_gui_tests)
   target_link_libraries(${TEST_NAME} PRIVATE
     kitegui_test_support ${TEST_LIBRARIES} kitegui_warnings)
   kite_precompiled(${TEST_NAME})
+  if(TEST_SEPARATE)
+    set_target_properties(${TEST_NAME} PROPERTIES UNITY_BUILD OFF)
+  endif()
   # The library finds its host services in the program; stacks of hanging tests have names.
   set_target_properties(${TEST_NAME} PROPERTIES ENABLE_EXPORTS ON)
 

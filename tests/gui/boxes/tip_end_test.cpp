@@ -8,12 +8,12 @@ using namespace kite::testing;
 
 namespace {
 
-const Point kRestingPlace{600, 500};
+const Point kPointerPlace{600, 500};
 constexpr milliseconds kAWhile{300};  // longer than any event is on its way
 
 int tipEndedBy(const std::function<void(Shown)>& user)
 {
-    Robot::instance().moveTo(kRestingPlace);
+    Robot::instance().moveTo(kPointerPlace);
     settle();
     Script::instance().whenShown("p_menu", user);
     return guiTipBox("A note");
@@ -21,7 +21,7 @@ int tipEndedBy(const std::function<void(Shown)>& user)
 
 void leave()
 {
-    Robot::instance().moveTo({kRestingPlace.x - 200, kRestingPlace.y - 200});
+    Robot::instance().moveTo({kPointerPlace.x - 200, kPointerPlace.y - 200});
     settle();
 }
 
@@ -182,7 +182,7 @@ GUI_TEST(TipEnd, ManyNotesDoNotPileUp)
     constexpr int kMany = 200;
     const auto user = script.wheneverShown("p_menu", [](Shown) { leave(); });
     const auto note = [&] {
-        robot.moveTo(kRestingPlace);
+        robot.moveTo(kPointerPlace);
         settle();
         EXPECT_EQ(guiTipBox("Once more"), 0);
     };

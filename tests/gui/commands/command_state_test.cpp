@@ -11,7 +11,7 @@ using ::testing::IsEmpty;
 namespace {
 
 // 1 plain, 2 check: in both. 3 plain item, 4 check item; 5 plain button, 6 check button.
-void buildCommands()
+void buildStates()
 {
     guiMenu("Menu");
     guiMenuItem("Both plain", 'p', GUI_PLAIN, 1);
@@ -28,7 +28,7 @@ void buildCommands()
 
 void withCommands(const std::function<void()>& body)
 {
-    buildThenRun(buildCommands, [&] {
+    buildThenRun(buildStates, [&] {
         Recorder::instance().clear();
         body();
     });

@@ -11,7 +11,7 @@ using ::testing::IsEmpty;
 
 namespace {
 
-void buildMenus()
+void buildMouseMenus()
 {
     guiMenu("&File");
     guiMenuItem("&Open", 0, GUI_PLAIN, 10);
@@ -25,15 +25,15 @@ void buildMenus()
     guiMenuEnd();
 }
 
-void inMenus(const std::function<void()>& body)
+void inMouseMenus(const std::function<void()>& body)
 {
-    buildThenRun(buildMenus, [&] {
+    buildThenRun(buildMouseMenus, [&] {
         Recorder::instance().clear();
         body();
     });
 }
 
-std::vector<Event> commands()
+std::vector<Event> mouseCommands()
 {
     return Recorder::instance().events(GUI_EVENT_COMMAND);
 }
@@ -42,18 +42,18 @@ std::vector<Event> commands()
 
 GUI_STARTUP_TEST(MenuMouse, ClickAndClick)
 {
-    inMenus([] {
+    inMouseMenus([] {
         choose("File", "Open");
-        EXPECT_THAT(commands(), ElementsAre(toWindow(GUI_EVENT_COMMAND, 10, 0, 0)));
+        EXPECT_THAT(mouseCommands(), ElementsAre(toWindow(GUI_EVENT_COMMAND, 10, 0, 0)));
         EXPECT_TRUE(isClosed("Open"));
         choose("File", "Quit");
-        EXPECT_EQ(commands().back(), toWindow(GUI_EVENT_COMMAND, 0, 0, 0));
+        EXPECT_EQ(mouseCommands().back(), toWindow(GUI_EVENT_COMMAND, 0, 0, 0));
     });
 }
 
 GUI_STARTUP_TEST(MenuMouse, PressDragRelease)
 {
-    inMenus([&] {
+    inMouseMenus([&] {
         robot.moveTo(entry("File"));
         robot.press();
         ASSERT_TRUE(isOpen("Open"));
@@ -61,13 +61,13 @@ GUI_STARTUP_TEST(MenuMouse, PressDragRelease)
         robot.release();
         EXPECT_TRUE(app.waitForEvent(toWindow(GUI_EVENT_COMMAND, 10)));
         EXPECT_TRUE(isClosed("Open"));
-        EXPECT_EQ(commands().size(), 1U);
+        EXPECT_EQ(mouseCommands().size(), 1U);
     });
 }
 
 GUI_STARTUP_TEST(MenuMouse, SubmenuByDragging)
 {
-    inMenus([&] {
+    inMouseMenus([&] {
         robot.moveTo(entry("File"));
         robot.press();
         ASSERT_TRUE(isOpen("Recent"));
@@ -81,62 +81,62 @@ GUI_STARTUP_TEST(MenuMouse, SubmenuByDragging)
 
 GUI_STARTUP_TEST(MenuMouse, SubmenuByClicks)
 {
-    inMenus([&] {
+    inMouseMenus([&] {
         openMenu("File");
         ASSERT_TRUE(isOpen("Recent"));
         robot.click(entry("Recent"));
         ASSERT_TRUE(isOpen("First"));
         robot.click(entry("First"));
-        EXPECT_THAT(commands(), ElementsAre(toWindow(GUI_EVENT_COMMAND, 11)));
+        EXPECT_THAT(mouseCommands(), ElementsAre(toWindow(GUI_EVENT_COMMAND, 11)));
     });
 }
 
 GUI_STARTUP_TEST(MenuMouse, ReleaseElsewhereChoosesNothing)
 {
-    inMenus([&] {
+    inMouseMenus([&] {
         robot.moveTo(entry("File"));
         robot.press();
         ASSERT_TRUE(isOpen("Open"));
         robot.moveTo(rectOf(app.find("v_text")).centre());
         robot.release();
         EXPECT_TRUE(isClosed("Open"));
-        EXPECT_THAT(commands(), IsEmpty());
+        EXPECT_THAT(mouseCommands(), IsEmpty());
     });
 }
 
 GUI_STARTUP_TEST(MenuMouse, ChecksChangeWithEachChoice)
 {
-    inMenus([] {
+    inMouseMenus([] {
         choose("View", "Wrap");
         EXPECT_TRUE(XmToggleButtonGadgetGetState(entry("Wrap")));
         choose("View", "Wrap");
-        EXPECT_THAT(commands(), ElementsAre(toWindow(GUI_EVENT_COMMAND, 12, 1, 0),
-                                            toWindow(GUI_EVENT_COMMAND, 12, 0, 0)));
+        EXPECT_THAT(mouseCommands(), ElementsAre(toWindow(GUI_EVENT_COMMAND, 12, 1, 0),
+                                                 toWindow(GUI_EVENT_COMMAND, 12, 0, 0)));
     });
 }
 
 GUI_STARTUP_TEST(MenuMouse, GreyedItemsAreNotChosen)
 {
-    inMenus([&] {
+    inMouseMenus([&] {
         guiEnableCommand(10, 0);
         openMenu("File");
         ASSERT_TRUE(isOpen("Open"));
         robot.moveTo(rectOf(entry("Open")).centre());
         robot.click();
         settle();
-        EXPECT_THAT(commands(), IsEmpty());
+        EXPECT_THAT(mouseCommands(), IsEmpty());
         robot.key(XK_Escape);
         EXPECT_TRUE(isClosed("Open"));
         guiEnableCommand(10, 1);
         choose("File", "Open");
-        EXPECT_THAT(commands(), ElementsAre(toWindow(GUI_EVENT_COMMAND, 10)));
+        EXPECT_THAT(mouseCommands(), ElementsAre(toWindow(GUI_EVENT_COMMAND, 10)));
     });
 }
 
 // Those inside others do not.
 GUI_STARTUP_TEST(MenuMouse, MenusOfTheMenuBarClearTheStatusLine)
 {
-    inMenus([&] {
+    inMouseMenus([&] {
         guiSetStatusLine("Done.");
         robot.moveTo(entry("File"));
         robot.press();
@@ -156,9 +156,9 @@ GUI_STARTUP_TEST(MenuMouse, MenusOfTheMenuBarClearTheStatusLine)
 GUI_STARTUP_TEST(MenuMouse, CommandsGoToTheHostCallbackWithoutAWindowHandler)
 {
     app.windowHandler = nullptr;
-    inMenus([] {
+    inMouseMenus([] {
         choose("View", "Wrap");
-        EXPECT_THAT(commands(), ElementsAre(toHost(GUI_EVENT_COMMAND, 12, 1, 0)));
+        EXPECT_THAT(mouseCommands(), ElementsAre(toHost(GUI_EVENT_COMMAND, 12, 1, 0)));
     });
 }
 
@@ -168,7 +168,7 @@ GUI_STARTUP_TEST(MenuMouse, CloseCommandClosesTheFrameOfAHostWithoutHandlers)
     app.hostCallback = nullptr;
     app.windowHandler = nullptr;
     app.init();
-    buildMenus();
+    buildMouseMenus();
     app.run([] {
         openMenu("File");
         ASSERT_TRUE(isOpen("Quit"));

@@ -45,7 +45,7 @@ void restElsewhere()
 }
 
 // Buttons 1 "Open", 2 "Wrap" (a check), 3 without a tip.
-void buildButtons()
+void buildTipButtons()
 {
     guiMenu("Menu");
     guiMenuItem("Item", 0, GUI_PLAIN, 1);
@@ -61,7 +61,7 @@ void buildButtons()
 void withButtons(const char* delay, const std::function<void()>& body)
 {
     HostDouble::instance().profile().setString("mouse_hover", delay);
-    buildThenRun(buildButtons, [&] {
+    buildThenRun(buildTipButtons, [&] {
         restElsewhere();
         body();
     });

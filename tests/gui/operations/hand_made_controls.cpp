@@ -13,6 +13,7 @@
 #include <Xm/TextF.h>
 #include <kitegui.h>
 
+#include "dialog_plan.h"
 #include "robot.h"
 #include "widgets.h"
 
@@ -22,7 +23,7 @@ namespace {
 
 constexpr int kColumn = 190;  // pixels
 constexpr int kSmall = 26;
-constexpr int kLarge = 90;
+constexpr int kLargeHeight = 90;
 
 XtPointer tagOf(int id, Kind kind)
 {
@@ -108,7 +109,8 @@ Widget makeProgress(int id)
 
 Widget makeList(int id, const std::vector<std::string>& items, unsigned char policy)
 {
-    Widget const scrolled = makeScrolled(id, List, {0, 280, kLarge}, 2, XmAPPLICATION_DEFINED);
+    Widget const scrolled =
+        makeScrolled(id, List, {0, 280, kLargeHeight}, 2, XmAPPLICATION_DEFINED);
     Widget const list = XtVaCreateManagedWidget(
         "v_dlglist", xmListWidgetClass, scrolled, XmNshadowThickness, 0, XmNhighlightThickness, 1,
         XmNlistSizePolicy, XmCONSTANT, XmNselectionPolicy, policy, XmNuserData, nullptr, nullptr);
@@ -118,7 +120,8 @@ Widget makeList(int id, const std::vector<std::string>& items, unsigned char pol
 
 Widget makeText(int id, const std::string& text)
 {
-    Widget const scrolled = makeScrolled(id, MultiLine, {1, 280, kLarge}, 0, XmAPPLICATION_DEFINED);
+    Widget const scrolled =
+        makeScrolled(id, MultiLine, {1, 280, kLargeHeight}, 0, XmAPPLICATION_DEFINED);
     return XtVaCreateManagedWidget(
         "v_dlgtext", xmTextWidgetClass, scrolled, XmNeditMode, XmMULTI_LINE_EDIT,
         XmNshadowThickness, 2, XmNhighlightThickness, 0, XmNmarginWidth, 3, XmNmarginHeight, 1,
@@ -127,7 +130,7 @@ Widget makeText(int id, const std::string& text)
 
 Widget makeTree(int id, const std::vector<std::string>& items)
 {
-    Widget const scrolled = makeScrolled(id, Tree, {2, 280, kLarge}, 2, XmAUTOMATIC);
+    Widget const scrolled = makeScrolled(id, Tree, {2, 280, kLargeHeight}, 2, XmAUTOMATIC);
     Widget const tree = XtVaCreateManagedWidget(
         "v_dlgtree", xmContainerWidgetClass, scrolled, XmNlayoutType, XmOUTLINE, XmNselectionPolicy,
         XmBROWSE_SELECT, XmNshadowThickness, 0, XmNhighlightThickness, 0, XmNnavigationType,
@@ -175,6 +178,14 @@ void makeOtherKinds()
     makeTree(Tree, {"root", "branch"});
     makeSlider(Slider);
     makeSpin(Spin);
+}
+
+void withKinds(const std::function<void()>& body)
+{
+    runDialog({.build = buildSimpleKinds, .fill = [&] {
+                   makeOtherKinds();
+                   body();
+               }});
 }
 
 std::vector<std::string> numberedItems(int count)

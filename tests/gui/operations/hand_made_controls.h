@@ -5,6 +5,7 @@
 
 #include <Xm/Xm.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -54,6 +55,9 @@ void selectTreeItem(Widget tree, const std::string& item);
 // One control of every kind; the number of the kind is its id.
 void buildSimpleKinds();  // between guiDialog and guiRunDialog
 void makeOtherKinds();    // while the dialog runs
+
+// Runs a dialog with all of them and, before it is seen, the body.
+void withKinds(const std::function<void()>& body);
 
 // "item 0", "item 1" …
 std::vector<std::string> numberedItems(int count);

@@ -15,14 +15,6 @@ using namespace kite::testing;
 
 namespace {
 
-void withKinds(const std::function<void()>& body)
-{
-    runDialog({.build = buildSimpleKinds, .fill = [&] {
-                   makeOtherKinds();
-                   body();
-               }});
-}
-
 int valueOf(int scale)
 {
     return resource<int>(outerOf(scale), XmNvalue);

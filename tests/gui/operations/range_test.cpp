@@ -35,14 +35,6 @@ Values valuesOf(int kind)
             resource<int>(widget, XmNvalue)};
 }
 
-void withKinds(const std::function<void()>& body)
-{
-    runDialog({.build = buildSimpleKinds, .fill = [&] {
-                   makeOtherKinds();
-                   body();
-               }});
-}
-
 }  // namespace
 
 GUI_TEST(Range, OfAScaleIsShiftedByOne)

@@ -37,7 +37,7 @@ void letPass()
     ASSERT_TRUE(doEventsPass());
 }
 
-void withKinds(const std::function<void()>& body)
+void withBuiltKinds(const std::function<void()>& body)
 {
     runDialog({.build = build, .fill = makeOtherKinds, .look = [&](Shown) { body(); }});
 }
@@ -46,7 +46,7 @@ void withKinds(const std::function<void()>& body)
 
 GUI_TEST(Suppression, GetPosKeepsEventsBackForEveryKind)
 {
-    withKinds([] {
+    withBuiltKinds([] {
         for (const Kind kind : {ChoiceBox, List, MultiLine, Progress, Tree, Slider, Spin}) {
             letPass();
             guiGetPos(kind);
@@ -58,7 +58,7 @@ GUI_TEST(Suppression, GetPosKeepsEventsBackForEveryKind)
 
 GUI_TEST(Suppression, ARefusedGetPosDoesNot)
 {
-    withKinds([] {
+    withBuiltKinds([] {
         EXPECT_MISUSE(guiGetPos(Edit), "GetPos: unsuitable control type (id = 2)", -1);
         EXPECT_TRUE(doEventsPass());
         EXPECT_MISUSE(guiGetPos(-1), "GetPos: wrong id -1", -1);
@@ -69,7 +69,7 @@ GUI_TEST(Suppression, ARefusedGetPosDoesNot)
 GUI_TEST(Suppression, OperationsThatChangeAControlEndIt)
 {
     guiWriteLine("one");
-    withKinds([] {
+    withBuiltKinds([] {
         for (const Operation& operation : allOperations())
             for (const int kind : operation.kinds) {
                 SCOPED_TRACE(operation.function + ' ' + std::to_string(kind));
@@ -84,7 +84,7 @@ GUI_TEST(Suppression, OperationsThatChangeAControlEndIt)
 GUI_TEST(Suppression, OthersDoNotBeginIt)
 {
     guiWriteLine("one");
-    withKinds([] {
+    withBuiltKinds([] {
         for (const Operation& operation : allOperations()) {
             if (operation.function == "guiGetPos") continue;
             for (const int kind : operation.kinds) {
@@ -98,7 +98,7 @@ GUI_TEST(Suppression, OthersDoNotBeginIt)
 
 GUI_TEST(Suppression, ARefusedOperationDoesNotEndIt)
 {
-    withKinds([] {
+    withBuiltKinds([] {
         keepBack();
         EXPECT_MISUSE(guiSetText(Line, "no"), "SetText: unsuitable control type (id = 9)");
         EXPECT_FALSE(doEventsPass());
@@ -111,7 +111,7 @@ GUI_TEST(Suppression, ARefusedOperationDoesNotEndIt)
 GUI_TEST(Suppression, SetPosOfALineThatIsNotThereKeepsEventsBack)
 {
     guiWriteLine("one");
-    withKinds([] {
+    withBuiltKinds([] {
         for (const int line : {-1, INT_MIN, guiOutputLineCount() + 1, INT_MAX}) {
             letPass();
             guiSetPos(MultiLine, line);
@@ -145,7 +145,7 @@ GUI_TEST(Suppression, TheUsersButtonIsSilentUntilAControlIsChanged)
 GUI_TEST(Suppression, WhatTheToolkitTellsOfTheChangeRaisesNothing)
 {
     guiWriteLine("one");
-    withKinds([] {
+    withBuiltKinds([] {
         struct {
             Kind kind;
             const char* callback;
@@ -169,7 +169,7 @@ GUI_TEST(Suppression, WhatTheToolkitTellsOfTheChangeRaisesNothing)
 // The fields of a combo and a spin box change as their owner is changed.
 GUI_TEST(Suppression, FieldsOfComposedControlsRaiseNothing)
 {
-    withKinds([] {
+    withBuiltKinds([] {
         const auto fieldOf = [](int id) { return resource<Widget>(outerOf(id), XmNtextField); };
         const ProbeOnChange combo{fieldOf(Combo), XmNvalueChangedCallback};
         const ProbeOnChange spin{fieldOf(Spin), XmNvalueChangedCallback};
@@ -188,7 +188,7 @@ GUI_TEST(Suppression, SetTopLetsEventsPass)
 {
     guiWriteLine("one");
     guiWriteLine("two");
-    withKinds([] {
+    withBuiltKinds([] {
         const ProbeOnChange caret{innerOf(MultiLine), XmNmotionVerifyCallback};
         XmTextSetInsertionPosition(innerOf(MultiLine), 0);
         const int before = caret.changes();

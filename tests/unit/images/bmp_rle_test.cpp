@@ -26,7 +26,7 @@ std::optional<Decoded> runs(int bits, int width, int height, const std::vector<i
     return decode(BmpFile::inRuns(bits, {{}}, width, height, bytesOf(values)).bytes());
 }
 
-struct Row {
+struct RunCase {
     const char* what;
     int bits;
     int width;
@@ -35,7 +35,7 @@ struct Row {
     Rows expected;  // an empty row: nothing of it was drawn
 };
 
-const Row kRows[] = {
+const RunCase kRunCases[] = {
     {"nothing drawn", 8, 2, 2, {0, 1}, {{}, {}}},
     {"an encoded run", 8, 4, 1, {3, 7, 0, 1}, {{7, 7, 7, kNo}}},
     {"the longest run", 8, 3, 1, {255, 7, 0, 1}, {{7, 7, 7}}},
@@ -89,7 +89,7 @@ const Row kRows[] = {
 
 TEST(BmpRuns, AreDrawn)
 {
-    for (const Row& row : kRows) {
+    for (const RunCase& row : kRunCases) {
         const auto decoded = runs(row.bits, row.width, row.height, row.values);
         ASSERT_TRUE(decoded) << row.what;
         EXPECT_EQ(decoded->rows(), row.expected) << row.what;
@@ -107,7 +107,7 @@ TEST(BmpRuns, GiveEachRowOnceFromTheBottom)
 // Wherever the file ends: there is no picture, whatever was drawn before.
 TEST(BmpRuns, AreRefusedWhenTheFileEndsBeforeTheEscape)
 {
-    for (const Row& row : kRows) {
+    for (const RunCase& row : kRunCases) {
         std::vector<int> values = row.values;
         if (values[values.size() - 2] != 0 || values.back() != 1) continue;  // bytes behind the end
         while (!values.empty()) {
@@ -137,7 +137,7 @@ TEST(BmpRuns, MayLeadAnyDistanceAway)
 
 TEST(BmpRuns, AreTheSameInPiecesOfAnySize)
 {
-    for (const Row& row : kRows) {
+    for (const RunCase& row : kRunCases) {
         const std::string bytes =
             BmpFile::inRuns(row.bits, {{}}, row.width, row.height, bytesOf(row.values)).bytes();
         for (std::size_t piece = 1; piece <= 8; ++piece)
