@@ -695,6 +695,90 @@ KITEGUI_API int guiLine(int id, int row, int rows, int x, int width);
 KITEGUI_API int guiImage(int id, int row, int rows, int x, int width, int framed);
 
 /* ---------------------------------------------------------------------------------------------
+ * Lists, choices, texts, trees and values
+ *
+ * As the simple controls, with the same arguments and checks. `rows` is the number of rows: the control is
+ * rows * 14 - 2 units high, or after guiUseAbsPos(1) `rows` vertical units. Where the toolkit's failure has
+ * other words than "%s: cannot create control %d" they are quoted.
+ *
+ * All of them are made empty, and filled by operations when the dialog runs, usually during GUI_EVENT_INIT.
+ * The Tab key goes to all but progress bars. All report GUI_EVENT_HELP, GUI_EVENT_KEY and GUI_EVENT_HOVER.
+ *
+ * Lists, multi-line texts and trees have scroll bars, and raise GUI_EVENT_SCROLLED when they are scrolled in
+ * any way, with what guiGetTop returns.
+ * ------------------------------------------------------------------------------------------ */
+
+/* How many items of a list can be selected. Values outside count as the nearest. */
+enum {
+    GUI_BROWSE = 0,              /* one, which follows the pointer while the button is held */
+    GUI_EXTENDED = 1,            /* ranges, with Shift and Control */
+    GUI_MULTIPLE = 2             /* each click selects or deselects an item */
+};
+
+/*
+ * A list of items.
+ *
+ *   selectionMode  GUI_BROWSE, GUI_EXTENDED or GUI_MULTIPLE
+ *
+ * Raises GUI_EVENT_SELECT with the index of the item, from 0, when items are selected or deselected, and
+ * again with 1 when it is clicked twice. Only with GUI_MULTIPLE can the user deselect all of them. Return
+ * raises nothing.
+ */
+KITEGUI_API int guiList(int id, int row, int rows, int x, int width, int selectionMode);
+
+/*
+ * One of several items, picked from a list that drops down. 12 units high. Raises GUI_EVENT_VALUE with the
+ * position of the item, from 0. The list is as high as the user's setting "ch_height" allows.
+ */
+KITEGUI_API int guiChoice(int id, int row, int x, int width);
+
+/*
+ * The same with a text to type in: "Edit: cannot create control %d". Raises GUI_EVENT_TEXT_CHANGED whenever
+ * the text changes, and GUI_EVENT_VALUE when an item is picked, or the typed text is left (0 then, unless it
+ * is an item).
+ */
+KITEGUI_API int guiCombo(int id, int row, int x, int width);
+
+/*
+ * Several lines of text, in the font of the Output area.
+ *
+ *   readOnly  non-zero: the text can be selected, but not changed
+ *
+ * Raises GUI_EVENT_CURSOR when the user changes the text, with the line and the column of the insertion
+ * point, both from 0; for a text that is empty now, -1 and 0. Raises GUI_EVENT_LEFT. When there is no memory
+ * it shows "GetLineCount: out of memory" in the place of GUI_EVENT_CURSOR.
+ */
+KITEGUI_API int guiText(int id, int row, int rows, int x, int width, int readOnly);
+
+/*
+ * An outline of items, which the user expands and collapses: "Text: cannot create control %d" or "Tree: cannot
+ * create control %d". Raises GUI_EVENT_SELECT with the key of the item less 1 (-1 when nothing is selected),
+ * and again with 1 when it is clicked twice. The pictures "images/tree_open.bmp" and "images/tree_close.bmp"
+ * of the application directory are the marks that a click expands and collapses.
+ */
+KITEGUI_API int guiTree(int id, int row, int rows, int x, int width);
+
+/*
+ * A number, to type or to step through with two arrows, from 0 to 100 at first (guiSetRange). 12 units high:
+ * "spin: cannot create control %d". Raises GUI_EVENT_TEXT_CHANGED with the number whenever it changes.
+ */
+KITEGUI_API int guiSpin(int id, int row, int x, int width);
+
+/*
+ * A value that the user drags, from 0 to 100 at first (guiSetRange), across or, when it is higher than it is
+ * wide, down. It stands as guiLine does, but is at least 12 pixels high and 15 wide. Raises GUI_EVENT_VALUE,
+ * also while it is dragged. One of no size is not made.
+ */
+KITEGUI_API int guiSlider(int id, int row, int rows, int x, int width);
+
+/*
+ * A bar that shows a value from 0 to 100 (guiSetRange); the user cannot change it. It stands as guiLine does,
+ * but is at least 5 units high and wide: "progress: cannot create control %d". One of no size, or of a
+ * single unit, is not made.
+ */
+KITEGUI_API int guiProgress(int id, int row, int rows, int x, int width);
+
+/* ---------------------------------------------------------------------------------------------
  * Operations on the controls of the dialog that runs
  *
  * Each takes the id of a control and shows one of these and does nothing else when it cannot be done, with
@@ -837,8 +921,9 @@ enum {
 KITEGUI_API void guiSetTextAtt(int id, char flags, const char *attr);
 
 /*
- * Returns the first visible line of a multi-line text, or item of a list, from 0; -1 for a tree, which has
- * none.
+ * Returns the first visible line of a multi-line text, item of a list or row of a tree, from 0. Rows of a tree
+ * are the items that can be seen by scrolling: what is below a collapsed item does not count. -1 when the text
+ * cannot be had.
  */
 KITEGUI_API int guiGetTop(int id);
 
@@ -874,6 +959,205 @@ KITEGUI_API void guiSetTop(int id, int line);
  */
 KITEGUI_API int guiGetPos(int id);
 KITEGUI_API void guiSetPos(int id, int pos);
+
+/* ---------------------------------------------------------------------------------------------
+ * Operations on items and lines
+ *
+ * As above. Indexes count from 0, and an index that the control does not have does nothing, or gives -1,
+ * without a word. An item keeps the first 1023 bytes of its text; null is an empty text; "\n" divides lines.
+ * ------------------------------------------------------------------------------------------ */
+
+/*
+ * Adds an item at the end of a list, choice or combo box. The first item of a control is selected at once, but
+ * for a list of GUI_MULTIPLE. Of numbers small ones are written out ("0.00005", to eight decimals), others
+ * with up to 14 digits as printf's "%.14G" writes them. Misuse is shown as "AppendItem: ...".
+ */
+KITEGUI_API void guiAppendItem(int id, const char *text);
+KITEGUI_API void guiAppendItemDbl(int id, double value);
+KITEGUI_API void guiAppendItemInt(int id, int value);
+
+/*
+ * The same before the item of that index; below 0 or behind the last item: at the end. Misuse is shown as
+ * "InsertItem: ...".
+ */
+KITEGUI_API void guiInsertItem(int id, int index, const char *text);
+KITEGUI_API void guiInsertItemDbl(int id, int index, double value);
+KITEGUI_API void guiInsertItemInt(int id, int index, int value);
+
+/*
+ * Removes an item.
+ *
+ *   list    When the item at the keyboard cursor or one before it goes the cursor goes to the item before;
+ *           when a later one goes, or the item at the cursor and it is not the last, the cursor keeps its
+ *           index. In a list of GUI_BROWSE the item at the cursor is selected then.
+ *   choice, combo box   When the selected item goes the next one is selected, or the last. -1 is the last
+ *           item. Without items the text is empty.
+ *   tree    `index` is the item's key. The items below it move to the top level; guiDelTree removes
+ *           them too.
+ */
+KITEGUI_API void guiRemoveItem(int id, int index);
+
+/*
+ * Removes all items of a list, choice or combo box, the text of an edit or multi-line text, or of a tree the
+ * items at the top level: those below them move up, as with guiRemoveItem.
+ */
+KITEGUI_API void guiRemoveAll(int id);
+
+/*
+ * Returns the index of the first item of a list behind startIndex (-1: of all) whose text is this one; -1 when
+ * there is none, and for a null text. 1 for a tree, which is not searched.
+ */
+KITEGUI_API int guiFindItem(int id, int startIndex, const char *text);
+
+/*
+ * Copies the text of an item of a list, choice or combo box into the buffer and returns its length; -1 with an
+ * empty buffer when there is no such item. Of a tree it is the item of key index + 1: 0 with an empty buffer
+ * when there is none, -1 for an index below 0. -1 also after "GetItem: invalid buffer" for a null buffer or a
+ * size below 2, which is tested first.
+ */
+KITEGUI_API int guiGetItem(int id, int index, char *buffer, int size);
+
+/* The first 255 bytes of that text as a number, as far as it is one; 0 when there is none. */
+KITEGUI_API double guiGetItemDbl(int id, int index);
+KITEGUI_API int guiGetItemInt(int id, int index);
+
+/* Returns the number of items of a list, choice or combo box; of a tree how many are selected. */
+KITEGUI_API int guiGetItemCount(int id);
+
+/*
+ * Returns the length in bytes of an item of a list, choice or combo box, -1 when there is none and after
+ * "GetItemLen: out of memory".
+ */
+KITEGUI_API int guiGetItemLen(int id, int index);
+
+/* Selects all items of a list (not of GUI_BROWSE), or the text of an edit or multi-line text. */
+KITEGUI_API void guiSelAll(int id);
+
+/* Returns how many items of a list are selected; always 1 for a list of GUI_BROWSE. */
+KITEGUI_API int guiGetSelCount(int id);
+
+/*
+ * Stores the indexes of the selected items of a list, `size` at most, and returns how many it has stored. Of
+ * a list of GUI_BROWSE it is the item at the keyboard cursor. -1 after "GetSelItems: invalid array" for a
+ * null array or a size below 1, which is tested first.
+ */
+KITEGUI_API int guiGetSelItems(int id, int *array, int size);
+
+/*
+ * Returns the index of the n-th selected item of a list, counted from 0; -1 when fewer are selected, and
+ * after "GetNthSel: out of memory". Misuse is shown as "GetSelCount: ...".
+ */
+KITEGUI_API int guiGetNthSel(int id, int n);
+
+/*
+ * Selects.
+ *
+ *   list              the item, beside those that are selected where several can be. When it is the only
+ *                     one it gets the keyboard cursor and is scrolled into view.
+ *   choice, combo box the item; below 0: none, and the text is empty
+ *   tree              the item of key index + 1
+ *   edit, spin box    the text between the insertion point and the character of that index
+ *   multi-line text   the text between the beginning of line `index` and the position that is the length of
+ *                     that line: the line itself for line 0. (For an empty line: the length of all that
+ *                     follows.) "GetLine: out of memory" when the text cannot be had.
+ */
+KITEGUI_API void guiSetSel(int id, int index);
+
+/*
+ * Returns what is selected.
+ *
+ *   list               the item at the keyboard cursor; -1 for an empty list
+ *   choice, combo box  the item; -1 when the text is not that of the selected item, by its first 9 bytes
+ *   tree               the key of the first selected item less 1; 0 when there is none
+ *   progress bar, slider  the value
+ *   spin box           the value less 1
+ */
+KITEGUI_API int guiGetSel(int id);
+
+/*
+ * Deselects all items of a list (not of GUI_BROWSE), the text of an edit or multi-line text (the insertion
+ * point goes to its beginning), or the item of a combo box, whose text is empty then. Does nothing with
+ * other controls, without a word.
+ */
+KITEGUI_API void guiClrAll(int id);
+
+/*
+ * Deselects an item of a list (not of GUI_BROWSE), or that of a combo box as guiClrAll does. Does nothing with
+ * other controls, without a word.
+ */
+KITEGUI_API void guiClrSel(int id, int index);
+
+/*
+ * Moves the item at the keyboard cursor of a list by one place, and the cursor with it. It stays selected when
+ * it was (in a list of GUI_BROWSE it is afterwards). The first and the last item of a list go no further.
+ */
+KITEGUI_API void guiMoveItemUp(int id);
+KITEGUI_API void guiMoveItemDown(int id);
+
+/*
+ * Copies a line of a multi-line text into the buffer.
+ *
+ *   line  from 0; -1 is the whole text
+ *
+ * Returns the length of what stands there; -1 with an empty buffer when there is no such line (the empty rest
+ * behind a last "\n" is none); -1 after "GetLine: invalid buffer" for a null buffer or a size below 2, which is
+ * tested first, and after "GetLine: out of memory".
+ */
+KITEGUI_API int guiGetLine(int id, int line, char *buffer, int size);
+
+/*
+ * Returns the number of lines of a multi-line text, 0 when it is empty; -1 after "GetLineCount: out of
+ * memory".
+ */
+KITEGUI_API int guiGetLineCount(int id);
+
+/*
+ * Adds a line and a "\n" at the end of a multi-line text; the insertion point stays. Null is an empty line.
+ * "AppendLine: out of memory".
+ */
+KITEGUI_API void guiAppendLine(int id, const char *text);
+
+/*
+ * Adds markup (guiWriteHTML) at the end of a multi-line text. Null is an empty text. Misuse is shown as
+ * "AppendItem: ...".
+ */
+KITEGUI_API void guiAppendHTML(int id, const char *html);
+
+/* ---------------------------------------------------------------------------------------------
+ * Operations on trees
+ *
+ * The host gives each item a key, which is any number but 0: 0 is the root. When two items have the same key
+ * the first one in the outline is meant: an item and all that is below it come before the next one beside it.
+ * ------------------------------------------------------------------------------------------ */
+
+/*
+ * Adds an item behind those below the parent.
+ *
+ *   parentKey  0, or a key that the tree does not have, for the top level
+ *   text       null is an empty text
+ *
+ * Returns 0, also after the error box for a control that is no tree; -1 when there is no such control. Misuse is
+ * shown as "InsertTreeItem: ...".
+ */
+KITEGUI_API int guiAddTree(int id, int parentKey, int key, const char *text);
+
+/*
+ * Returns the number of items directly below the parent, 0 for a key that the tree does not have. Misuse is
+ * shown as "NumTreeItem: ...".
+ */
+KITEGUI_API int guiNumTree(int id, int parentKey);
+
+/*
+ * Returns the key of the n-th item directly below the parent, counted from 1; 0 when there is none. Misuse is
+ * shown as "NumTreeItem: ...".
+ */
+KITEGUI_API int guiNthTree(int id, int parentKey, int n);
+
+/*
+ * Removes an item and all that is below it. Does nothing for key 0 and for a key that the tree does not have.
+ * Misuse is shown as "DelTreeItem: ...".
+ */
+KITEGUI_API void guiDelTree(int id, int key);
 
 /* ---------------------------------------------------------------------------------------------
  * Standard boxes

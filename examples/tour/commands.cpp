@@ -108,6 +108,11 @@ constexpr Action kActions[] = {
     {ShowKeys, showKeys},
     {ShowNestedDialogs, showNestedDialogs},
     {ShowHoverHelp, showHoverHelp},
+    {ShowTasks, showTasks},
+    {ShowFiles, showFiles},
+    {ShowSettings, showSettings},
+    {ShowLetter, showLetter},
+    {ShowFontsAndColours, showFontsAndColours},
 };
 
 // F1 to F9 in the Output area.

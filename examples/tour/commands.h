@@ -36,7 +36,12 @@ enum Command {
     ShowPictures,
     ShowKeys,
     ShowNestedDialogs,
-    ShowHoverHelp
+    ShowHoverHelp,
+    ShowTasks,
+    ShowFiles,
+    ShowSettings,
+    ShowLetter,
+    ShowFontsAndColours
 };
 
 // Builds the menu bar and the toolbar.

@@ -11,6 +11,11 @@ void showPictures();
 void showKeys();
 void showNestedDialogs();
 void showHoverHelp();
+void showTasks();
+void showFiles();
+void showSettings();
+void showLetter();
+void showFontsAndColours();
 
 // Runs the dialog that was built. The library stops the timer when a dialog ends: the menu says so.
 int runDialog(GuiHandler handler);

@@ -92,6 +92,12 @@ constexpr MenuEntry kMenuBar[] = {
     item("&Keyboard...", ShowKeys, 'b'),
     item("A dialog in a &dialog...", ShowNestedDialogs, 'd'),
     item("&Help at hand...", ShowHoverHelp, 'u'),
+    kSeparator,
+    item("&Tasks...", ShowTasks, 'j'),
+    item("&Files...", ShowFiles, 'f'),
+    item("&Settings...", ShowSettings, 'm'),
+    item("&Letter...", ShowLetter, 'o'),
+    item("Fonts and &colours...", ShowFontsAndColours, 'x'),
     kEnd,
 
     menu("&Help"),

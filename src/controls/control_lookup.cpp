@@ -29,11 +29,11 @@ Control controlOf(Widget outer)
 
 Control findControl(const char* operation, int id)
 {
-    const auto refuse = [](int) { return Control{}; };
+    const auto none = [](int) { return Control{}; };
     Widget const top = topWindow();
     if (!top) return {};
-    if (top == mainWindow()) return refuse(reportMisuse("%s: no dialog", operation));
-    if (id < 0) return refuse(reportMisuse("%s: wrong id %d", operation, id));
+    if (top == mainWindow()) return none(reportMisuse("%s: no dialog", operation));
+    if (id < 0) return none(reportMisuse("%s: wrong id %d", operation, id));
     if (Widget const outer = findChildOfId(top, id)) return controlOf(outer);
     if (std::strcmp(operation, kQuietOperation) != 0)
         reportMisuse("%s: no control with id %d in the dialog", operation, id);
@@ -44,8 +44,13 @@ Control findControl(const char* operation, int id, TypeSet accepted)
 {
     const Control control = findControl(operation, id);
     if (!control || accepted.has(control.type)) return control;
-    reportMisuse("%s: unsuitable control type (id = %d)", operation, id);
+    refuse(operation, id);
     return {};
+}
+
+void refuse(const char* operation, int id)
+{
+    reportMisuse("%s: unsuitable control type (id = %d)", operation, id);
 }
 
 }  // namespace kite

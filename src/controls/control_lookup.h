@@ -24,4 +24,7 @@ Control findControl(const char* operation, int id);
 // The same for an operation that not all types of controls have.
 Control findControl(const char* operation, int id, TypeSet accepted);
 
+// The error box of an operation that the control's type does not have.
+void refuse(const char* operation, int id);
+
 }  // namespace kite

@@ -8,7 +8,8 @@
 #include <Xm/Text.h>
 #include <Xm/TextF.h>
 
-#include "controls/selected_tree_item.h"
+#include "dialogs/text_field.h"
+#include "toolkit/outline.h"
 #include "toolkit/plain_text.h"
 #include "toolkit/resources.h"
 #include "toolkit/xt_string.h"
@@ -32,7 +33,7 @@ std::optional<std::string> itemAtCursor(Widget list)
 
 std::string selectedTreeLabel(Widget container)
 {
-    Widget const item = selectedTreeItem(container);
+    Widget const item = outline::selectedItem(container);
     return item ? plainTextOf(item, XmNlabelString) : std::string{};
 }
 
@@ -48,8 +49,7 @@ std::optional<std::string> textOf(const Control& control)
     case ControlType::List: return itemAtCursor(widget);
     case ControlType::Text: return owned(XmTextGetSelection(widget));
     case ControlType::Tree: return selectedTreeLabel(widget);
-    case ControlType::Spin:
-        return owned(XmTextFieldGetString(resource<Widget>(widget, XmNtextField)));
+    case ControlType::Spin: return owned(XmTextFieldGetString(fieldOf(widget)));
     default: return plainTextOf(widget, XmNlabelString);
     }
 }

@@ -4,14 +4,7 @@
 
 #include <climits>
 
-#include "toolkit/resources.h"
-
 namespace kite {
-
-int topItemOf(Widget list)
-{
-    return resource<int>(list, XmNtopItemPosition) - 1;
-}
 
 void setTopItem(Widget list, int item)
 {

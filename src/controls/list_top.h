@@ -1,4 +1,4 @@
-// list_top.h: the first item that a list shows, counted from 0.
+// list_top.h: scrolls a list.
 
 #pragma once
 
@@ -6,9 +6,7 @@
 
 namespace kite {
 
-int topItemOf(Widget list);
-
-// As the toolkit does it: -1 is the last item, and any other item that the list does not have changes
+// To an item, counted from 0. As the toolkit does it: -1 is the last item, and any other item that the list does not have changes
 // nothing.
 void setTopItem(Widget list, int item);
 

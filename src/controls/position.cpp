@@ -18,10 +18,11 @@
 
 #include "controls/control_lookup.h"
 #include "controls/list_top.h"
-#include "controls/selected_tree_item.h"
 #include "controls/text_lines.h"
 #include "controls/value_range.h"
+#include "dialogs/first_visible.h"
 #include "frame/dispatcher.h"
+#include "toolkit/outline.h"
 #include "toolkit/resources.h"
 
 namespace kite {
@@ -37,16 +38,14 @@ constexpr TypeSet kPositionable{Edit, List, Text, Progress, Tree, Slider, Spin};
 int visibleLine(Widget text)
 {
     if (XmTextGetLastPosition(text) == 0) return 0;
-    const auto top = topLineOf(text);
+    const auto top = firstVisible(text, Text);
     return top ? *top + 1 : GUI_FAILED;
 }
 
 int selectedTreePosition(Widget container)
 {
-    Widget const item = selectedTreeItem(container);
-    if (!item) return 0;
-    const auto index = reinterpret_cast<std::intptr_t>(resource<XtPointer>(item, XmNuserData));
-    return static_cast<int>(index) + 1;
+    Widget const item = outline::selectedItem(container);
+    return item ? static_cast<int>(static_cast<unsigned>(outline::keyOf(item)) + 1U) : 0;
 }
 
 int spinPosition(int id)
@@ -58,7 +57,7 @@ int position(const Control& control, int id)
 {
     switch (control.type) {
     case Choice: return resource<int>(control.widget, XmNselectedPosition);
-    case List: return topItemOf(control.widget);
+    case List: return firstVisible(control.widget, List).value_or(GUI_FAILED);
     case Text: return visibleLine(control.widget);
     case Tree: return selectedTreePosition(control.widget);
     case Spin: return spinPosition(id);

@@ -9,10 +9,11 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <string>
 
 #include "controls/control_lookup.h"
+#include "controls/edited_text.h"
 #include "controls/value_range.h"
+#include "dialogs/text_field.h"
 #include "frame/dispatcher.h"
 #include "toolkit/compound_string.h"
 #include "toolkit/label_text.h"
@@ -38,19 +39,9 @@ void setButtonLabel(Widget button, const char* text)
     XtVaSetValues(button, XmNlabelType, XmSTRING, XmNlabelString, string.get(), nullptr);
 }
 
-// Emptied first, as other texts are, but painted once.
-void setEditedText(Widget edited, const char* text)
-{
-    XmTextDisableRedisplay(edited);
-    XmTextSetString(edited, const_cast<char*>(""));
-    XmTextSetString(edited, const_cast<char*>(text));
-    XmTextEnableRedisplay(edited);
-}
-
 void clearField(Widget composed)
 {
-    if (auto* const field = resource<Widget>(composed, XmNtextField))
-        XtVaSetValues(field, XmNvalue, nullptr, nullptr);
+    if (Widget const field = fieldOf(composed)) XtVaSetValues(field, XmNvalue, nullptr, nullptr);
 }
 
 void setComboText(Widget combo, const char* text)
@@ -60,21 +51,11 @@ void setComboText(Widget combo, const char* text)
     XtVaSetValues(combo, XmNselectedItem, item.get(), nullptr);
 }
 
-// The toolkit writes it into the field only when it is another position than before.
-void showPosition(Widget spin)
-{
-    auto* const field = resource<Widget>(spin, XmNtextField);
-    if (!field || XmTextFieldGetLastPosition(field) > 0) return;
-    const std::string position = std::to_string(resource<int>(spin, XmNposition));
-    XtVaSetValues(field, XmNvalue, position.c_str(), nullptr);
-}
-
 // The number itself, other than guiSetPos, which counts from the one before: hosts use both.
 void setSpinText(Widget spin, const char* text)
 {
     clearField(spin);
     setSpinPosition(spin, std::strtol(text, nullptr, 10));
-    showPosition(spin);
 }
 
 struct Setter {

@@ -3,7 +3,6 @@
 #include <Xm/Text.h>
 #include <kitegui.h>
 
-#include <algorithm>
 #include <string_view>
 
 #include "boxes/misuse.h"
@@ -28,14 +27,6 @@ std::size_t behindLineEnds(std::string_view text, int lineEnds)
 }
 
 }  // namespace
-
-std::optional<int> topLineOf(Widget text)
-{
-    const TextCopy copy = copyOfText(text);
-    if (!copy.bytes) return std::nullopt;
-    const auto above = copy.view().substr(0, byteAt(copy.view(), XmTextGetTopCharacter(text)));
-    return static_cast<int>(std::count(above.begin(), above.end(), '\n'));
-}
 
 std::optional<XmTextPosition> startOfLine(Widget text, int line)
 {

@@ -8,9 +8,6 @@
 
 namespace kite {
 
-// The line of the first character that is shown; 0 for an empty text, nothing when there is no memory.
-std::optional<int> topLineOf(Widget text);
-
 // Where a line begins; the end of the text when it has fewer. Nothing when no position is to be set: after
 // an error box when there is no memory, else quietly for an empty text and for a line beyond the last one
 // of the frame's Output area. (That area's, not the text's own: hosts fill both with the same lines.)

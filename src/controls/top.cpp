@@ -1,12 +1,12 @@
 // top.cpp: the first line or item that a control shows, counted from 0.
 
-#include <Xm/List.h>
 #include <Xm/Text.h>
 #include <kitegui.h>
 
 #include "controls/control_lookup.h"
 #include "controls/list_top.h"
 #include "controls/text_lines.h"
+#include "dialogs/first_visible.h"
 
 namespace kite {
 
@@ -32,15 +32,11 @@ void showFromLine(Widget text, int line)
 
 using namespace kite;
 
-// A tree has no first visible item of its own: -1.
 int guiGetTop(int id)
 {
     const Control control = findControl("GetTop", id, kScrolled);
-    switch (control ? control.type : Tree) {
-    case List: return topItemOf(control.widget);
-    case Text: return topLineOf(control.widget).value_or(GUI_FAILED);
-    default: return GUI_FAILED;
-    }
+    if (!control) return GUI_FAILED;
+    return firstVisible(control.widget, control.type).value_or(GUI_FAILED);
 }
 
 // Moving the view is not a change of the library's own that the host must not hear of: events pass.

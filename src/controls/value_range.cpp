@@ -2,11 +2,15 @@
 
 #include <Xm/SSpinB.h>
 #include <Xm/Scale.h>
+#include <Xm/TextF.h>
 
 #include <algorithm>
 #include <climits>
+#include <string>
 
+#include "dialogs/text_field.h"
 #include "toolkit/resources.h"
+#include "toolkit/xt_string.h"
 
 namespace kite {
 
@@ -44,6 +48,17 @@ void setRange(Widget control, const Names& names, int least, int most)
                   clamped(value, least, most), nullptr);
 }
 
+// The toolkit writes the position into the field only when it is another one than before; something else may
+// have been typed.
+void showPosition(Widget spin)
+{
+    Widget const field = fieldOf(spin);
+    const std::string position = std::to_string(resource<int>(spin, XmNposition));
+    const XtString shown{XmTextFieldGetString(field)};
+    if (!shown || position != shown.get())
+        XmTextFieldSetString(field, const_cast<char*>(position.c_str()));
+}
+
 }  // namespace
 
 void setScaleValue(Widget scale, long value)
@@ -54,6 +69,7 @@ void setScaleValue(Widget scale, long value)
 void setSpinPosition(Widget spin, long position)
 {
     setValue(spin, kSpin, position);
+    showPosition(spin);
 }
 
 void setScaleRange(Widget scale, int least, int most)
@@ -64,6 +80,7 @@ void setScaleRange(Widget scale, int least, int most)
 void setSpinRange(Widget spin, int least, int most)
 {
     setRange(spin, kSpin, least, most);
+    showPosition(spin);
 }
 
 }  // namespace kite

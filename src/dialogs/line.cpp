@@ -38,7 +38,7 @@ int guiLine(int id, int row, int rows, int x, int width)
     if (!building::mayCreate("Line", id, kAnonymous)) return GUI_FAILED;
 
     const ThinSize size = thinSize(row, rows, width);
-    if (size.width < 1 || size.height < 1 || (size.width == 1 && size.height == 1)) return 0;
+    if (size.isEmpty() || size.isPoint()) return 0;
 
     // One unit is one pixel here: a line is as thin as it can be, whatever the font.
     Rect place = placed(x, size.top, width, size.height);

@@ -9,6 +9,9 @@ struct ThinSize {
     double top;
     double width;
     double height;
+
+    bool isEmpty() const { return width < 1 || height < 1; }
+    bool isPoint() const { return width == 1 && height == 1; }
 };
 
 // In rows: fewer than 2 rows are a line in the middle of the row; more are as high as other controls, and

@@ -151,6 +151,11 @@ void suppressEvents()
     state.suppressed = true;
 }
 
+bool areEventsSuppressed()
+{
+    return state.suppressed;
+}
+
 }  // namespace dispatcher
 
 EventsSuppressed::EventsSuppressed()

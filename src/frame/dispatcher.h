@@ -38,6 +38,7 @@ void noteBuilding();
 
 // No event is delivered any more, until a scope below has been left.
 void suppressEvents();
+bool areEventsSuppressed();
 
 }  // namespace dispatcher
 

@@ -2,13 +2,15 @@
 
 #include <Xm/Text.h>
 
+#include "toolkit/resources.h"
+
 namespace kite {
 
 namespace {
 
 void gainedFocus(Widget text, XtPointer, XtPointer)
 {
-    XtVaSetValues(text, XmNcursorPositionVisible, True, nullptr);
+    showInsertionCursor(text);
 }
 
 void lostFocus(Widget text, XtPointer, XtPointer)
@@ -23,6 +25,13 @@ void showInsertionCursorWithFocus(Widget text)
     hideInsertionCursor(text);
     XtAddCallback(text, XmNfocusCallback, gainedFocus, nullptr);
     XtAddCallback(text, XmNlosingFocusCallback, lostFocus, nullptr);
+}
+
+// To set it again would paint all of the text.
+void showInsertionCursor(Widget text)
+{
+    if (!resource<Boolean>(text, XmNcursorPositionVisible))
+        XtVaSetValues(text, XmNcursorPositionVisible, True, nullptr);
 }
 
 void hideInsertionCursor(Widget text)

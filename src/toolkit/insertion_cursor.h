@@ -8,6 +8,8 @@ namespace kite {
 
 void showInsertionCursorWithFocus(Widget text);
 
+void showInsertionCursor(Widget text);
+
 // A text that is made insensitive is not told that it loses the focus.
 void hideInsertionCursor(Widget text);
 

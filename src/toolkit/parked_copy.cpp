@@ -4,21 +4,26 @@
 #include <Xm/Text.h>
 
 #include <new>
+#include <unordered_map>
 #include <utility>
 
+#include "toolkit/never_destroyed.h"
 #include "toolkit/text_copy.h"
 
 namespace kite {
 
 namespace {
 
-struct {
-    Widget text = nullptr;          // whose copy there is; null: there is none
-    XmTextSource source = nullptr;  // what the text showed then
+struct Parked {
+    XmTextSource source = nullptr;  // what the text showed when it was copied
     XmTextPosition last = 0;        // its last position then
     TextCopy copy;
     LineStarts lines;  // of the copy
-} parked;
+};
+
+// Of each text that has a copy. Put in by parkCopy, taken out by drop.
+using Copies = std::unordered_map<Widget, Parked>;
+Copies& copies = neverDestroyed<Copies>();
 
 // The field itself: XtSetValues makes a text paint all of itself anew, and a host reads line after line.
 XtPointer& userData(Widget text)
@@ -26,57 +31,51 @@ XtPointer& userData(Widget text)
     return reinterpret_cast<XmPrimitiveWidget>(text)->primitive.user_data;
 }
 
-void drop()
+bool isIn(Widget text, const Parked& parked)
 {
-    parked.text = nullptr;
-    parked.lines = LineStarts{};
-    parked.copy = {};
-}
-
-bool isParkedIn(Widget text)
-{
-    return parked.text == text && userData(text) == parked.copy.bytes.get();
+    return userData(text) == parked.copy.bytes.get();
 }
 
 // A text may be given another source, which is no change of its value to the toolkit.
-bool isCurrent(Widget text)
+bool isCurrent(Widget text, const Parked& parked)
 {
-    return isParkedIn(text) && XmTextGetSource(text) == parked.source &&
+    return isIn(text, parked) && XmTextGetSource(text) == parked.source &&
            XmTextGetLastPosition(text) == parked.last;
 }
 
-void dropOf(Widget text, XtPointer, XtPointer)
+void drop(Widget text, XtPointer, XtPointer)
 {
-    if (parked.text != text) return;
-    if (isParkedIn(text)) userData(text) = nullptr;
-    drop();
+    const auto parked = copies.find(text);
+    if (parked == copies.end()) return;
+    if (isIn(text, parked->second)) userData(text) = nullptr;
+    copies.erase(parked);
 }
 
 }  // namespace
 
 void dropParkedCopyOnChange(Widget text)
 {
-    XtAddCallback(text, XmNvalueChangedCallback, dropOf, nullptr);
-    XtAddCallback(text, XmNdestroyCallback, dropOf, nullptr);
+    XtAddCallback(text, XmNvalueChangedCallback, drop, nullptr);
+    XtAddCallback(text, XmNdestroyCallback, drop, nullptr);
 }
 
 const LineStarts* parkCopy(Widget text)
 {
-    if (isCurrent(text)) return &parked.lines;
-    if (parked.text) dropOf(parked.text, nullptr, nullptr);
+    const auto found = copies.find(text);
+    if (found != copies.end() && isCurrent(text, found->second)) return &found->second.lines;
+    drop(text, nullptr, nullptr);
     TextCopy copy = copyOfText(text);
     if (!copy.bytes) return nullptr;
     try {
-        parked.lines = LineStarts{copy.view()};
+        LineStarts lines{copy.view()};
+        Parked& parked = copies[text];
+        parked = {XmTextGetSource(text), XmTextGetLastPosition(text), std::move(copy),
+                  std::move(lines)};
+        userData(text) = parked.copy.bytes.get();
+        return &parked.lines;
     } catch (const std::bad_alloc&) {
         return nullptr;
     }
-    parked.text = text;
-    parked.source = XmTextGetSource(text);
-    parked.last = XmTextGetLastPosition(text);
-    parked.copy = std::move(copy);
-    userData(text) = parked.copy.bytes.get();
-    return &parked.lines;
 }
 
 }  // namespace kite

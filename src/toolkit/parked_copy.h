@@ -14,7 +14,6 @@ void dropParkedCopyOnChange(Widget text);
 
 // The text as it is now, with its lines. It stands in XmNuserData until the text changes; what somebody
 // else has put there is overwritten and stays his. Null: there was no memory for it.
-// One text has a copy at a time.
 const LineStarts* parkCopy(Widget text);
 
 }  // namespace kite

@@ -54,10 +54,10 @@ GUI_TEST(Top, OfAListFollowsTheUser)
                }});
 }
 
-GUI_TEST(Top, OfATreeIsNone)
+GUI_TEST(Top, OfATreeIsItsFirstVisibleRow)
 {
     runDialog({.fill = [] {
         makeTree(Tree, {"root"});
-        EXPECT_EQ(guiGetTop(Tree), -1);
+        EXPECT_EQ(guiGetTop(Tree), 0);
     }});
 }

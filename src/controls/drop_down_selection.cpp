@@ -1,0 +1,82 @@
+#include "controls/drop_down_selection.h"
+
+#include <Xm/ComboBoxP.h>
+#include <Xm/List.h>
+#include <Xm/TextF.h>
+
+#include "controls/items.h"
+#include "dialogs/drop_down.h"
+#include "dialogs/text_field.h"
+#include "toolkit/resources.h"
+
+namespace kite {
+
+namespace {
+
+Widget listOf(Widget box)
+{
+    return resource<Widget>(box, XmNlist);
+}
+
+bool hasSelection(Widget box)
+{
+    return resource<int>(listOf(box), XmNselectedPositionCount) > 0;
+}
+
+// The toolkit notes every change of the text as typed, and reports it when the box is left.
+void forgetTyping(Widget box)
+{
+    reinterpret_cast<XmComboBoxWidget>(box)->combo_box.text_changed = False;
+}
+
+void clearText(Widget box)
+{
+    XmTextFieldSetString(fieldOf(box), const_cast<char*>(""));
+    forgetTyping(box);
+}
+
+}  // namespace
+
+int selectedPosition(Widget box)
+{
+    return resource<int>(box, XmNselectedPosition);
+}
+
+// Deselected first: the toolkit does nothing for a position that is selected, though another text may have
+// been typed.
+void selectPosition(Widget box, int position)
+{
+    if (position < 0 || position >= itemCount(listOf(box))) return;
+    XmListDeselectAllItems(listOf(box));
+    XtVaSetValues(box, XmNselectedPosition, position, nullptr);
+    forgetTyping(box);
+}
+
+void clearSelection(Widget box)
+{
+    XmListDeselectAllItems(listOf(box));
+    clearText(box);
+}
+
+// When the selected item goes the toolkit selects the one behind it, but none for the last item, and
+// goes on showing what is not there any more.
+void deleteItem(Widget box, int toolkitPosition)
+{
+    Widget const list = listOf(box);
+    const bool hadSelection = hasSelection(box);
+    XmComboBoxDeletePos(box, toolkitPosition);
+    fitDropDownList(box);
+    const int count = itemCount(list);
+    if (count == 0) return clearText(box);
+    if (hadSelection && !hasSelection(box)) selectPosition(box, count - 1);
+    XmComboBoxUpdate(box);
+}
+
+void deleteAllItems(Widget box)
+{
+    XmListDeleteAllItems(listOf(box));
+    clearText(box);
+    fitDropDownList(box);
+}
+
+}  // namespace kite

@@ -1,0 +1,106 @@
+// get_selection.cpp: what is selected.
+
+#include <Xm/Xm.h>
+#include <kitegui.h>
+
+#include <algorithm>
+#include <cstring>
+#include <memory>
+#include <new>
+
+#include "boxes/misuse.h"
+#include "controls/control_lookup.h"
+#include "controls/drop_down_selection.h"
+#include "controls/list_selection.h"
+#include "toolkit/outline.h"
+#include "toolkit/resources.h"
+
+namespace kite {
+
+namespace {
+
+using enum ControlType;
+
+constexpr TypeSet kWithSelection{Choice, Combo, List, Progress, Slider, Tree, Spin};
+
+constexpr int kCompared = 10;  // bytes of a text, with the terminating null, that tell items apart
+
+// In a combo box another text may have been typed. -1 then.
+int selectionOfDropDown(int id, Widget box)
+{
+    const int position = selectedPosition(box);
+    char shown[kCompared] = "";
+    char item[kCompared] = "";
+    guiGetText(id, shown, sizeof shown);
+    guiGetItem(id, position, item, sizeof item);
+    return std::strcmp(shown, item) == 0 ? position : GUI_FAILED;
+}
+
+int selectionOfTree(Widget container)
+{
+    Widget const item = outline::selectedItem(container);
+    return item ? outline::indexOf(item) : 0;
+}
+
+int selectionOf(const Control& control, int id)
+{
+    switch (control.type) {
+    case List: return cursorOf(control.widget);
+    case Tree: return selectionOfTree(control.widget);
+    case Spin: return static_cast<int>(static_cast<unsigned>(guiGetTextInt(id)) - 1U);
+    case Choice:
+    case Combo: return selectionOfDropDown(id, control.widget);
+    default: return resource<int>(control.widget, XmNvalue);
+    }
+}
+
+int storeSelected(Widget list, int* array, int size)
+{
+    if (!selectsSeveral(list)) {
+        array[0] = cursorOf(list);
+        return 1;
+    }
+    const auto positions = selectedPositions(list);
+    const auto stored = positions.first(std::min(positions.size(), static_cast<std::size_t>(size)));
+    std::transform(stored.begin(), stored.end(), array, [](int position) { return position - 1; });
+    return static_cast<int>(stored.size());
+}
+
+}  // namespace
+
+}  // namespace kite
+
+using namespace kite;
+
+// Where one item at most can be selected it always counts.
+int guiGetSelCount(int id)
+{
+    const Control control = findControl("GetSelCount", id, {List});
+    if (!control) return GUI_FAILED;
+    if (!selectsSeveral(control.widget)) return 1;
+    return static_cast<int>(selectedPositions(control.widget).size());
+}
+
+int guiGetSelItems(int id, int* array, int size)
+{
+    if (!array || size < 1) return reportMisuse("GetSelItems: invalid array");
+    const Control control = findControl("GetSelItems", id, {List});
+    return control ? storeSelected(control.widget, array, size) : GUI_FAILED;
+}
+
+int guiGetNthSel(int id, int n)
+{
+    const int count = guiGetSelCount(id);
+    if (n < 0 || n > count - 1) return GUI_FAILED;
+    const auto size = static_cast<std::size_t>(n) + 1;
+    const std::unique_ptr<int[]> items{new (std::nothrow) int[size]};
+    if (!items) return reportMisuse("GetNthSel: out of memory");
+    guiGetSelItems(id, items.get(), n + 1);
+    return items[size - 1];
+}
+
+int guiGetSel(int id)
+{
+    const Control control = findControl("GetSel", id, kWithSelection);
+    return control ? selectionOf(control, id) : GUI_FAILED;
+}

@@ -1,0 +1,61 @@
+#include "dialogs/scrolled.h"
+
+#include <Xm/ScrollBar.h>
+#include <Xm/ScrolledW.h>
+#include <kitegui.h>
+
+#include "dialogs/control.h"
+#include "dialogs/first_visible.h"
+#include "dialogs/placement.h"
+#include "frame/dispatcher.h"
+#include "frame/hover.h"
+#include "toolkit/resources.h"
+
+namespace kite {
+
+namespace {
+
+// A scroll bar tells of a movement in the callbacks of one of these, and the others stay silent.
+const char* const kMovements[] = {
+    XmNvalueChangedCallback,  XmNdragCallback,          XmNincrementCallback, XmNdecrementCallback,
+    XmNpageIncrementCallback, XmNpageDecrementCallback, XmNtoTopCallback,     XmNtoBottomCallback};
+
+void moved(Widget bar, XtPointer data, XtPointer)
+{
+    const Tag tag{data};
+    hover::cancel();
+    auto* const inner = resource<Widget>(XtParent(bar), XmNworkWindow);
+    if (const auto top = inner ? firstVisible(inner, tag.type()) : std::nullopt)
+        raise(GUI_EVENT_SCROLLED, tag.id(), *top);
+}
+
+void adjustLook(Widget bar)
+{
+    Widget const board = building::board();
+    XtVaSetValues(bar, XmNshadowThickness, 2, XmNhighlightThickness, 0, XmNbackground,
+                  resource<Pixel>(board, XmNbackground), XmNforeground,
+                  resource<Pixel>(board, XmNforeground), XmNtraversalOn, False, nullptr);
+}
+
+}  // namespace
+
+Widget createScrolled(const ScrolledKind& kind, Tag tag, int row, int rows, int x, int width)
+{
+    const double height = building::usesAbsolutePositions() ? rows : heightOfRows(rows);
+    return createControl("v_dlgscroll", xmScrolledWindowWidgetClass,
+                         placed(x, topOf(row), width, height), tag, XmNshadowThickness, kind.shadow,
+                         XmNhighlightThickness, 1, XmNspacing, 0, XmNscrollingPolicy, kind.policy);
+}
+
+void reportScrolling(Widget scrolled, Tag tag)
+{
+    auto* const across = resource<Widget>(scrolled, XmNhorizontalScrollBar);
+    auto* const down = resource<Widget>(scrolled, XmNverticalScrollBar);
+    for (Widget const bar : {across, down})
+        if (bar) adjustLook(bar);
+    if (!down) return;
+    for (const char* const movement : kMovements)
+        XtAddCallback(down, const_cast<char*>(movement), moved, tag.userData());
+}
+
+}  // namespace kite

@@ -1,0 +1,84 @@
+// spin.cpp: a number to type, or to step through with arrows.
+
+#include <Xm/SSpinB.h>
+#include <Xm/SpinBP.h>
+#include <Xm/TextF.h>
+#include <kitegui.h>
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "boxes/misuse.h"
+#include "dialogs/common_events.h"
+#include "dialogs/control.h"
+#include "dialogs/layout_metrics.h"
+#include "dialogs/placement.h"
+#include "dialogs/text_field.h"
+#include "frame/dispatcher.h"
+#include "frame/hover.h"
+#include "toolkit/colours.h"
+#include "toolkit/xt_string.h"
+
+namespace kite {
+
+namespace {
+
+constexpr int kArrows = 8;  // horizontal units beside the text field
+
+int numberIn(Widget field)
+{
+    const XtString text{XmTextFieldGetString(field)};
+    return text ? std::atoi(text.get()) : 0;
+}
+
+// The arrows go on from what was typed. (The position is written where it is kept: to set it would rewrite
+// the number while it is being typed.)
+void keepPosition(Widget field, int number)
+{
+    auto& kept = reinterpret_cast<XmSpinBoxConstraintPtr>(field->core.constraints)->spinBox;
+    kept.position = std::clamp(number, kept.minimum_value, kept.maximum_value);
+}
+
+void changed(Widget field, XtPointer tag, XtPointer)
+{
+    hover::cancel();
+    const int number = numberIn(field);
+    keepPosition(field, number);
+    raise(GUI_EVENT_TEXT_CHANGED, Tag{tag}.id(), number);
+}
+
+void prepareField(Widget field, const Rect& place)
+{
+    const int width = place.width - building::units().pixelsAcross(kArrows);
+    XtVaSetValues(field, XmNx, asPosition(place.x), XmNwidth, asDimension(std::max(1, width)),
+                  XmNheight, asDimension(place.height), XmNmarginWidth, 3, XmNmarginHeight, 1,
+                  XmNshadowThickness, 1, XmNhighlightThickness, 1, XmNforeground, blackPixel(field),
+                  XmNbackground, whitePixel(field), XmNfontList, building::font(), nullptr);
+}
+
+}  // namespace
+
+}  // namespace kite
+
+using namespace kite;
+
+int guiSpin(int id, int row, int x, int width)
+{
+    if (!building::mayCreate("Spin", id, kAnonymous)) return GUI_FAILED;
+
+    const Tag tag{id, ControlType::Spin};
+    const Rect place = placed(x, topOf(row), width, layout::kEditHeight);
+    Widget const box =
+        createControl("v_dlgspinbox", xmSimpleSpinBoxWidgetClass, place, tag, XmNnavigationType,
+                      kTabStop, XmNmarginWidth, 0, XmNmarginHeight, 0, XmNshadowThickness, 1,
+                      XmNhighlightThickness, 1, XmNspinBoxChildType, XmNUMERIC, XmNminimumValue, 0,
+                      XmNmaximumValue, 100, XmNincrementValue, 1, XmNeditable, True);
+    if (!box) return reportMisuse("spin: cannot create control %d", id);
+
+    Widget const field = fieldOf(box);
+    prepareField(field, place);
+    for (Widget const part : {box, field}) reportCommonEvents(part, tag);
+    noteTyping(field, tag);
+    XtAddCallback(field, XmNvalueChangedCallback, changed, tag.userData());
+    return building::append(id, ControlType::Spin, box);
+}

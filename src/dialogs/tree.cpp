@@ -1,0 +1,97 @@
+// tree.cpp: an outline of items, which the user expands and collapses.
+
+#include <Xm/Container.h>
+#include <Xm/ScrolledW.h>
+#include <kitegui.h>
+
+#include "boxes/misuse.h"
+#include "dialogs/building.h"
+#include "dialogs/common_events.h"
+#include "dialogs/control.h"
+#include "dialogs/scrolled.h"
+#include "dialogs/wheel.h"
+#include "frame/dispatcher.h"
+#include "frame/focus_leave.h"
+#include "frame/frame_pictures.h"
+#include "frame/hover.h"
+#include "toolkit/outline.h"
+
+namespace kite {
+
+namespace {
+
+constexpr ScrolledKind kScrolled{2, XmAUTOMATIC};
+
+void report(Widget container, Tag tag, int isDouble)
+{
+    hover::cancel();
+    Widget const item = outline::selectedItem(container);
+    const int index = item ? outline::indexOf(item) : -1;
+    focusLeave::deliver();
+    raise(GUI_EVENT_SELECT, tag.id(), index, isDouble);
+}
+
+void selected(Widget container, XtPointer tag, XtPointer)
+{
+    report(container, Tag{tag}, 0);
+}
+
+void activated(Widget container, XtPointer tag, XtPointer)
+{
+    report(container, Tag{tag}, 1);
+}
+
+// The keyboard goes on behind the last item that is seen.
+void uncover(Widget scrolled, XtPointer, XtPointer call)
+{
+    const auto& wanted = *static_cast<XmTraverseObscuredCallbackStruct*>(call);
+    XmScrollVisible(scrolled, wanted.traversal_destination, 0, 0);
+}
+
+void showPicture(Widget container, const char* state, const images::Picture& picture)
+{
+    if (picture) XtVaSetValues(container, const_cast<char*>(state), picture.pixmap, nullptr);
+}
+
+Widget createInner(Widget scrolled)
+{
+    Widget const container = XtVaCreateManagedWidget(
+        "v_dlgtree", xmContainerWidgetClass, scrolled, XmNnavigationType, kTabStop, XmNlayoutType,
+        XmOUTLINE, XmNselectionPolicy, XmBROWSE_SELECT, XmNautomaticSelection, XmNO_AUTO_SELECT,
+        XmNfontList, building::font(), XmNshadowThickness, 0, XmNhighlightThickness, 0, XmNuserData,
+        nullptr, nullptr);
+    if (!container) return nullptr;
+    // The marks say what a click on them does.
+    const frame::TreeImages pictures = frame::treeImages(XtDisplay(scrolled));
+    showPicture(container, XmNcollapsedStatePixmap, pictures.opened);
+    showPicture(container, XmNexpandedStatePixmap, pictures.closed);
+    return container;
+}
+
+}  // namespace
+
+}  // namespace kite
+
+using namespace kite;
+
+int guiTree(int id, int row, int rows, int x, int width)
+{
+    if (!building::mayCreate("Tree", id, 1)) return GUI_FAILED;
+
+    const Tag tag{id, ControlType::Tree};
+    Widget const scrolled = createScrolled(kScrolled, tag, row, rows, x, width);
+    if (!scrolled) return reportMisuse("Text: cannot create control %d", id);  // as texts say it
+    Widget const container = createInner(scrolled);
+    if (!container) {
+        XtDestroyWidget(scrolled);
+        return reportMisuse("Tree: cannot create control %d", id);
+    }
+
+    reportCommonEvents(container, tag);
+    reportScrolling(scrolled, tag);
+    scrollByWheel(scrolled);
+    XtAddCallback(scrolled, XmNtraverseObscuredCallback, uncover, nullptr);
+    XtAddCallback(container, XmNselectionCallback, selected, tag.userData());
+    XtAddCallback(container, XmNdefaultActionCallback, activated, tag.userData());
+    return building::append(id, ControlType::Tree, scrolled);
+}
