@@ -186,7 +186,10 @@ void setFontAndHeight(const Control& control, const TextAttribute& attribute)
     Widget const outer = control.outer;
     const auto width = resource<Dimension>(outer, XmNwidth);
     const auto height = resource<Dimension>(outer, XmNheight);
+    Widget const field = control.type == Spin ? fieldOf(control) : nullptr;
+    const auto room = field ? resource<Dimension>(field, XmNwidth) : Dimension{};
     setFont(control, attribute);
+    if (field) XtVaSetValues(field, XmNwidth, room, nullptr);  // the arrows have the rest
     XtResizeWidget(outer, width, asDimension(heightFor(control, height)),
                    resource<Dimension>(outer, XmNborderWidth));
 }
