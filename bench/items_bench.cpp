@@ -87,9 +87,14 @@ Widget makeList(Widget board, XmFontList font)
     Widget const scrolled = XtVaCreateManagedWidget(
         "scrolled", xmScrolledWindowWidgetClass, board, XmNx, 15, XmNy, 15, XmNwidth, 215,
         XmNheight, 310, XmNshadowThickness, 2, XmNhighlightThickness, 1, XmNspacing, 0, nullptr);
-    return XtVaCreateManagedWidget("list", xmListWidgetClass, scrolled, XmNshadowThickness, 0,
-                                   XmNhighlightThickness, 1, XmNlistSizePolicy, XmCONSTANT,
-                                   XmNselectionPolicy, XmBROWSE_SELECT, XmNfontList, font, nullptr);
+    Widget const list =
+        XtVaCreateManagedWidget("list", xmListWidgetClass, scrolled, XmNshadowThickness, 0,
+                                XmNhighlightThickness, 1, XmNlistSizePolicy, XmCONSTANT,
+                                XmNselectionPolicy, XmBROWSE_SELECT, XmNfontList, font, nullptr);
+    Widget bar = nullptr;
+    XtVaGetValues(scrolled, XmNverticalScrollBar, &bar, nullptr);
+    XtVaSetValues(bar, XmNshadowThickness, 2, XmNhighlightThickness, 0, nullptr);
+    return list;
 }
 
 void appendToList(Widget list, XmString item)

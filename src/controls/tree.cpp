@@ -18,14 +18,16 @@ namespace {
 constexpr TypeSet kTrees{ControlType::Tree};
 constexpr int kRoot = 0;
 
-// Behind those that stand there. A parent that the tree does not have is the root.
+// Behind those that stand there, with the font and the colours that the tree has by now. A parent that the tree does not have is the root.
 void addItem(Widget container, int parentKey, int key, const char* text)
 {
     Widget const parent = parentKey == kRoot ? nullptr : guitreefind(container, nullptr, parentKey);
     const CompoundString label{text};
     XtVaCreateManagedWidget("item", xmIconGadgetClass, container, XmNlabelString, label.get(),
                             XmNfontList, resource<XmFontList>(container, XmNfontList),
-                            XmNentryParent, parent, XmNuserData,
+                            XmNforeground, resource<Pixel>(container, XmNforeground), XmNbackground,
+                            resource<Pixel>(container, XmNbackground), XmNentryParent, parent,
+                            XmNuserData,
                             reinterpret_cast<XtPointer>(static_cast<std::intptr_t>(key)),
                             XmNshadowThickness, 0, XmNhighlightThickness, 0, nullptr);
 }

@@ -20,10 +20,25 @@ std::vector<Widget> itemsBelow(Widget container, Widget parent)
     return items;
 }
 
-void destroy(Widget item)
+// The deepest first.
+void addBranch(Widget container, Widget item, std::vector<Widget>& branch)
 {
-    XtUnmanageChild(item);
-    XtDestroyWidget(item);
+    for (Widget const child : itemsBelow(container, item)) addBranch(container, child, branch);
+    branch.push_back(item);
+}
+
+// All of them are unmanaged at once: for each change the container lays out the whole tree.
+void destroyAll(std::vector<Widget>& items)
+{
+    XtUnmanageChildren(items.data(), static_cast<Cardinal>(items.size()));
+    for (Widget const item : items) XtDestroyWidget(item);
+}
+
+// Now, and not when Xt comes to it: until then they would be nowhere.
+void moveChildrenUp(Widget item)
+{
+    for (Widget const child : itemsBelow(XtParent(item), item))
+        XtVaSetValues(child, XmNentryParent, nullptr, nullptr);
 }
 
 }  // namespace
@@ -45,21 +60,23 @@ Widget findItemOfIndex(Widget container, int index)
 
 void DestroyBranch(Widget container, Widget item)
 {
-    for (Widget const child : itemsBelow(container, item)) DestroyBranch(container, child);
-    destroy(item);
+    std::vector<Widget> branch;
+    addBranch(container, item, branch);
+    destroyAll(branch);
 }
 
-// Now, and not when Xt comes to it: until then they would be nowhere.
 void destroyAlone(Widget item)
 {
-    for (Widget const child : itemsBelow(XtParent(item), item))
-        XtVaSetValues(child, XmNentryParent, nullptr, nullptr);
-    destroy(item);
+    moveChildrenUp(item);
+    std::vector<Widget> alone{item};
+    destroyAll(alone);
 }
 
 void destroyTopLevel(Widget container)
 {
-    for (Widget const item : itemsBelow(container, nullptr)) destroyAlone(item);
+    std::vector<Widget> items = itemsBelow(container, nullptr);
+    for (Widget const item : items) moveChildrenUp(item);
+    destroyAll(items);
 }
 
 void selectTreeItem(Widget container, int index)
