@@ -10,15 +10,6 @@ namespace {
 constexpr int kFull = 65025;    // 255 times 255
 constexpr int kUnread = 65281;  // -1 times 255, in 16 bits
 
-Pixel red()
-{
-    return pixelOf(kFull, 0, 0);
-}
-Pixel navy()
-{
-    return pixelOf(0, 0, 0x80 * 255);
-}
-
 void expectLook(int kind, const char* attribute, const Look& expected)
 {
     guiSetTextAtt(kind, 0, attribute);

@@ -11,18 +11,6 @@ screen::Colour shown(Pixel pixel)
     return screen::colourOf(guiGetTopWnd(), pixel);
 }
 
-const Pixel& red()
-{
-    static const Pixel pixel = pixelOf(65025, 0, 0);
-    return pixel;
-}
-
-const Pixel& navy()
-{
-    static const Pixel pixel = pixelOf(0, 0, 0x80 * 255);
-    return pixel;
-}
-
 bool hasColours(Widget widget, Pixel front, Pixel back)
 {
     const screen::Picture picture = screen::grab(widget);

@@ -83,6 +83,16 @@ Pixel pixelOf(int red, int green, int blue)
     return colour.pixel;
 }
 
+Pixel red()
+{
+    return pixelOf(255 * 255, 0, 0);
+}
+
+Pixel navy()
+{
+    return pixelOf(0, 0, 0x80 * 255);
+}
+
 Widget barOf(Widget progress)
 {
     return XtNameToWidget(progress, "Scrollbar");

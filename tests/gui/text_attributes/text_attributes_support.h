@@ -39,6 +39,8 @@ Look disguised();
 Pixel black();
 Pixel white();
 Pixel pixelOf(int red, int green, int blue);  // of X components
+Pixel red();                                  // as "#ff0000" is allocated
+Pixel navy();                                 // "#000080"
 
 Widget barOf(Widget progress);
 
