@@ -1,5 +1,6 @@
 // tour_gallery: drives the tour with real keys and clicks on the display it is started on, names each
-// step, and writes a picture of it. Arguments: the directory for the pictures, and the tour.
+// step, and writes a picture of it. Arguments: the directory for the pictures, the tour, and an X resource file
+// if it is to look otherwise.
 
 #include <cstdio>
 #include <cstdlib>
@@ -64,6 +65,14 @@ private:
     int count_ = 0;
 };
 
+// Insertion cursors that blink would change the screen for ever.
+void writeResources(const std::string& file, const std::filesystem::path& look)
+{
+    std::ofstream resources{file};
+    if (!look.empty()) resources << std::ifstream{look}.rdbuf();
+    resources << "*blinkRate: 0\n";
+}
+
 // What the tour shows of its current directory.
 void writeSomeFiles()
 {
@@ -92,20 +101,20 @@ bool leave(Process& tour)
 
 int main(int argc, char** argv)
 {
-    if (argc != 3) {
-        std::puts("usage: tour_gallery DIRECTORY TOUR");
+    if (argc < 3 || argc > 4) {
+        std::puts("usage: tour_gallery DIRECTORY TOUR [RESOURCES]");
         return 2;
     }
     // The robot works on a display of its own only; scripts/demo has started one.
     setenv("KITE_TEST_DISPLAY", environment("DISPLAY").c_str(), 1);
     Gallery gallery{std::filesystem::absolute(argv[1])};
     const std::string program = std::filesystem::absolute(argv[2]);
+    const auto look = argc == 4 ? std::filesystem::absolute(argv[3]) : std::filesystem::path{};
     const TemporaryDirectory files{"gallery"};  // what the tour saves
     std::filesystem::current_path(files.path());
     writeSomeFiles();
-    // Insertion cursors that blink would change the screen for ever.
     const std::string resources = files.path() / "resources";
-    std::ofstream{resources} << "*blinkRate: 0\n";
+    writeResources(resources, look);
     Process tour{{program}, {{"KITE_PROFILE", "/dev/null"}, {"XENVIRONMENT", resources}}};
     Window const frame = wm::waitForWindow(tour::kFrameTitle);
     if (!frame || !wm::waitForFocus(frame)) {

@@ -1,15 +1,14 @@
 #include "controls/control_colours.h"
 
-#include <Xm/ScrolledW.h>
 #include <Xm/Xm.h>
 
 #include <optional>
 
 #include "controls/control_parts.h"
 #include "dialogs/scale.h"
+#include "dialogs/scrolled.h"
 #include "toolkit/argument_list.h"
 #include "toolkit/colours.h"
-#include "toolkit/resources.h"
 
 namespace kite {
 
@@ -59,13 +58,6 @@ void paintProgress(Widget progress, const Pixels& pixels)
     if (Widget const bar = barOf(progress)) paint(bar, XmNtroughColor, pixels);
 }
 
-// A tree is only as large as its items: the rest is the window in which it is scrolled.
-void paintAroundTree(Widget scrolled, const Pixels& pixels)
-{
-    if (auto* const around = resource<Widget>(scrolled, XmNclipWindow))
-        paint(around, nullptr, {std::nullopt, pixels.background});
-}
-
 }  // namespace
 
 void setColours(const Control& control, const TextAttribute& attribute)
@@ -74,7 +66,7 @@ void setColours(const Control& control, const TextAttribute& attribute)
     if (control.type == Progress) return paintProgress(control.widget, pixels);
     paint(control.widget, XmNforeground, pixels);
     for (Widget const part : partsOf(control)) paint(part, XmNforeground, pixels);
-    if (control.type == Tree) paintAroundTree(control.outer, pixels);
+    if (control.type == Tree) spreadBackground(control.outer);
 }
 
 }  // namespace kite

@@ -58,4 +58,11 @@ void reportScrolling(Widget scrolled, Tag tag)
         XtAddCallback(down, const_cast<char*>(movement), moved, tag.userData());
 }
 
+void spreadBackground(Widget scrolled)
+{
+    auto* const inner = resource<Widget>(scrolled, XmNworkWindow);
+    if (auto* const around = resource<Widget>(scrolled, XmNclipWindow))
+        XtVaSetValues(around, XmNbackground, resource<Pixel>(inner, XmNbackground), nullptr);
+}
+
 }  // namespace kite

@@ -23,4 +23,7 @@ Widget createScrolled(const ScrolledKind& kind, Tag tag, int row, int rows, int 
 // movements.
 void reportScrolling(Widget scrolled, Tag tag);
 
+// A tree is only as large as its items: the rest of the window looks as it does.
+void spreadBackground(Widget scrolled);
+
 }  // namespace kite

@@ -100,6 +100,7 @@ int guiTree(int id, int row, int rows, int x, int width)
     reportCommonEvents(container, tag);
     reportScrolling(scrolled, tag);
     scrollByWheel(scrolled);
+    spreadBackground(scrolled);
     XtAddCallback(scrolled, XmNtraverseObscuredCallback, uncover, nullptr);
     XtAddCallback(container, XmNselectionCallback, selected, tag.userData());
     XtAddCallback(container, XmNdefaultActionCallback, activated, tag.userData());
