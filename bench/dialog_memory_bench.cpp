@@ -8,14 +8,20 @@
 
 #include "bare_dialog.h"
 #include "bare_frame.h"
+#include "in_dialog.h"
 #include "in_frame.h"
 #include "library_dialog.h"
 
 namespace {
 
 constexpr int kControls = 50;
-constexpr int kWarmUp = 200;  // openings, after which all is in place
-constexpr int kOpenings = 1000;
+
+struct Openings {
+    int warmUp;  // after which all is in place
+    int all;
+};
+constexpr Openings kOfSimpleKinds{200, 1000};
+constexpr Openings kOfAllKinds{100, 500};
 
 double residentKiB()
 {
@@ -25,47 +31,75 @@ double residentKiB()
 }
 
 template <typename OpenAndClose>
-void measureGrowth(benchmark::State& state, OpenAndClose openAndClose)
+void measureGrowth(benchmark::State& state, const Openings& openings, OpenAndClose openAndClose)
 {
     for ([[maybe_unused]] auto iteration : state) {
-        for (int i = 0; i < kWarmUp; ++i) openAndClose();
+        for (int i = 0; i < openings.warmUp; ++i) openAndClose();
         const double before = residentKiB();
-        for (int i = kWarmUp; i < kOpenings; ++i) openAndClose();
+        for (int i = openings.warmUp; i < openings.all; ++i) openAndClose();
         state.counters["growth_KiB"] = residentKiB() - before;
     }
 }
 
-void closeWhenPainted(XtPointer, XtIntervalId*)
+void buildSimpleKinds()
 {
-    bench::processUntilAllPainted(guiGetTopWnd());
-    guiClose(0);
-}
-
-int handle(int event, int, int, int)
-{
-    if (event == GUI_EVENT_INIT)
-        XtAppAddTimeOut(XtWidgetToApplicationContext(guiGetTopWnd()), 0, closeWhenPainted, nullptr);
-    return 0;
+    guiUseAbsPos(1);
+    for (int number = 0; number < kControls; ++number) bench::addControl(number);
 }
 
 void openInLibrary()
 {
-    guiDialog("Dialog");
-    guiUseAbsPos(1);
-    for (int number = 0; number < kControls; ++number) bench::addControl(number);
-    guiRunDialog(handle);
+    bench::runInDialog({buildSimpleKinds, {}, {}});
 }
 
 void growthLibrary(benchmark::State& state)
 {
-    bench::runInFrame([&] { measureGrowth(state, openInLibrary); });
+    bench::runInFrame([&] { measureGrowth(state, kOfSimpleKinds, openInLibrary); });
+}
+
+void buildAllKinds()
+{
+    guiLabel(1, 0, 0, 60, "Label");
+    guiEdit(2, 1, 0, 60, 0, 0);
+    guiButton(3, 2, 0, 60, "Button", 0);
+    guiCheck(4, 3, 0, 60, "Check");
+    guiRadio(5, 4, 0, 60, "Radio");
+    guiChoice(6, 5, 0, 60);
+    guiList(7, 6, 3, 0, 60, GUI_EXTENDED);
+    guiText(8, 9, 3, 0, 60, 0);
+    guiLine(9, 12, 1, 0, 60);
+    guiImage(10, 13, 2, 0, 60, 1);
+    guiCombo(12, 0, 70, 60);
+    guiProgress(13, 1, 1, 70, 60);
+    guiTree(14, 2, 5, 70, 60);
+    guiSlider(15, 7, 1, 70, 60);
+    guiSpin(16, 8, 70, 60);
+}
+
+void fillAllKinds()
+{
+    for (int item = 0; item < 20; ++item) {
+        for (const int id : {6, 7, 12}) guiAppendItemInt(id, item);
+        guiAppendLine(8, "A line");
+        guiAddTree(14, item / 4, item + 1, "Item");
+    }
+    guiSetTextAtt(1, 0, "Times");
+}
+
+void growthOfAllKinds(benchmark::State& state)
+{
+    bench::runInFrame([&] {
+        measureGrowth(state, kOfAllKinds, [] {
+            bench::runInDialog({buildAllKinds, fillAllKinds, {}});
+        });
+    });
 }
 
 void growthBare(benchmark::State& state)
 {
     bench::BareFrame frame = bench::openBareFrame();
     bench::processUntilAllPainted(frame.text);
-    measureGrowth(state, [&] {
+    measureGrowth(state, kOfSimpleKinds, [&] {
         bench::BareDialog dialog{frame.mainWindow, frame.menuFont};
         for (int number = 0; number < kControls; ++number)
             dialog.add(bench::placeOf(number), bench::textOf(number).c_str());
@@ -85,5 +119,9 @@ BENCHMARK(growthBare)
     ->Unit(benchmark::kMillisecond);
 BENCHMARK(growthLibrary)
     ->Name("dialog opened 1,000 times/kitegui")
+    ->Iterations(1)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(growthOfAllKinds)
+    ->Name("dialog of all kinds opened 500 times/kitegui")
     ->Iterations(1)
     ->Unit(benchmark::kMillisecond);
