@@ -4,6 +4,8 @@
 #include <kitegui.h>
 
 #include "bare_frame.h"
+#include "in_frame.h"
+#include "measured.h"
 
 namespace bench {
 
@@ -34,6 +36,23 @@ void runInDialog(const DialogWork& dialog)
     guiDialog("Dialog");
     dialog.build();
     guiRunDialog(handle);
+}
+
+void measureInDialog(benchmark::State& state, const MeasuredWork& measured)
+{
+    Measured measurement{state};
+    const auto work = [&] {
+        Display* const display = XtDisplay(guiGetTopWnd());
+        for ([[maybe_unused]] auto iteration : state) {
+            if (measured.before) measured.before();
+            processAll(guiGetTopWnd());
+            measurement.begin(display);
+            measured.work();
+            measurement.end(display);
+        }
+    };
+    runInFrame([&] { runInDialog({measured.build, measured.fill, work}); });
+    measurement.report();
 }
 
 }  // namespace bench

@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include <benchmark/benchmark.h>
+
 #include <functional>
 
 namespace bench {
@@ -14,5 +16,15 @@ struct DialogWork {
 
 // From a handler of the frame.
 void runInDialog(const DialogWork& dialog);
+
+struct MeasuredWork {
+    std::function<void()> build;
+    std::function<void()> fill;    // before the dialog is shown; may be empty
+    std::function<void()> before;  // each time, not measured; may be empty
+    std::function<void()> work;
+};
+
+// The work in the dialog as often as the framework wants it.
+void measureInDialog(benchmark::State& state, const MeasuredWork& measured);
 
 }  // namespace bench

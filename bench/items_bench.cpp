@@ -11,7 +11,6 @@
 #include "bare_dialog.h"
 #include "bare_frame.h"
 #include "in_dialog.h"
-#include "in_frame.h"
 #include "measured.h"
 
 namespace {
@@ -45,39 +44,23 @@ void appendAll(int count)
     for (int i = 0; i < count; ++i) guiAppendItem(kId, itemText(i).c_str());
 }
 
+void removeAll()
+{
+    guiRemoveAll(kId);
+}
+
 void appendInLibrary(benchmark::State& state, void (*build)())
 {
-    bench::runInFrame([&] {
-        Measured measurement{state};
-        const auto work = [&] {
-            for ([[maybe_unused]] auto iteration : state) {
-                guiRemoveAll(kId);
-                bench::processAll(guiGetTopWnd());
-                measurement.begin(XtDisplay(guiGetTopWnd()));
-                appendAll(kItems);
-                measurement.end(XtDisplay(guiGetTopWnd()));
-            }
-        };
-        bench::runInDialog({build, {}, work});
-        measurement.report();
-    });
+    bench::measureInDialog(state, {build, {}, removeAll, [] { appendAll(kItems); }});
 }
 
 void readInLibrary(benchmark::State& state, int items)
 {
-    bench::runInFrame([&] {
-        Measured measurement{state};
-        const auto work = [&] {
-            char buffer[kBuffer];
-            for ([[maybe_unused]] auto iteration : state) {
-                measurement.begin(XtDisplay(guiGetTopWnd()));
-                for (int i = 0; i < kReads; ++i) guiGetItem(kId, i % items, buffer, kBuffer);
-                measurement.end(XtDisplay(guiGetTopWnd()));
-            }
-        };
-        bench::runInDialog({buildList, [&] { appendAll(items); }, work});
-        measurement.report();
-    });
+    const auto read = [&] {
+        char buffer[kBuffer];
+        for (int i = 0; i < kReads; ++i) guiGetItem(kId, i % items, buffer, kBuffer);
+    };
+    bench::measureInDialog(state, {buildList, [&] { appendAll(items); }, {}, read});
 }
 
 // ---- by hand ----------------------------------------------------------------------------------

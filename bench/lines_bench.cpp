@@ -10,7 +10,6 @@
 #include "bare_dialog.h"
 #include "bare_frame.h"
 #include "in_dialog.h"
-#include "in_frame.h"
 #include "measured.h"
 
 namespace {
@@ -37,37 +36,17 @@ void appendAll(int lines)
 
 void appendInLibrary(benchmark::State& state, int lines)
 {
-    bench::runInFrame([&] {
-        Measured measurement{state};
-        const auto work = [&] {
-            for ([[maybe_unused]] auto iteration : state) {
-                guiRemoveAll(kId);
-                bench::processAll(guiGetTopWnd());
-                measurement.begin(XtDisplay(guiGetTopWnd()));
-                appendAll(lines);
-                measurement.end(XtDisplay(guiGetTopWnd()));
-            }
-        };
-        bench::runInDialog({buildText, {}, work});
-        measurement.report();
-    });
+    bench::measureInDialog(state,
+                           {buildText, {}, [] { guiRemoveAll(kId); }, [&] { appendAll(lines); }});
 }
 
 void readInLibrary(benchmark::State& state, int lines)
 {
-    bench::runInFrame([&] {
-        Measured measurement{state};
-        const auto work = [&] {
-            char buffer[kBuffer];
-            for ([[maybe_unused]] auto iteration : state) {
-                measurement.begin(XtDisplay(guiGetTopWnd()));
-                for (int i = 0; i < lines; ++i) guiGetLine(kId, i, buffer, kBuffer);
-                measurement.end(XtDisplay(guiGetTopWnd()));
-            }
-        };
-        bench::runInDialog({buildText, [&] { appendAll(lines); }, work});
-        measurement.report();
-    });
+    const auto read = [&] {
+        char buffer[kBuffer];
+        for (int i = 0; i < lines; ++i) guiGetLine(kId, i, buffer, kBuffer);
+    };
+    bench::measureInDialog(state, {buildText, [&] { appendAll(lines); }, {}, read});
 }
 
 Widget makeText(Widget board, XmFontList font)
