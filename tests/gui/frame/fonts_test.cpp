@@ -7,6 +7,7 @@
 #include "connection.h"
 #include "frame_checks.h"
 #include "gui_test.h"
+#include "server_font.h"
 
 using namespace kite::testing;
 
@@ -34,22 +35,6 @@ std::string toolkitFontOf(WidgetClass widgetClass, const char* parent)
 {
     Widget const plain = XtVaCreateWidget("plain", widgetClass, findWidget(parent), nullptr);
     return fontNameOf(plain, XmNfontList);
-}
-
-// Another name for a font that the server has.
-void giveServerFont(const std::string& name, const std::string& font)
-{
-    HostDouble& host = HostDouble::instance();
-    host.addFile("fonts/fonts.dir", "0\n");
-    host.addFile("fonts/fonts.alias", name + ' ' + font + '\n');
-    int count = 0;
-    char** const old = XGetFontPath(connection(), &count);
-    std::vector<char*> path(old, old + count);
-    std::string own = host.appDir().string() + "/fonts";
-    path.push_back(own.data());
-    XSetFontPath(connection(), path.data(), static_cast<int>(path.size()));
-    XSync(connection(), False);
-    XFreeFontPath(old);
 }
 
 }  // namespace

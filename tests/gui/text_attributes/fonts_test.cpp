@@ -1,6 +1,7 @@
 // Fonts by attribute strings.
 
 #include "frame/frame_checks.h"
+#include "server_font.h"
 #include "text_attributes_support.h"
 
 using namespace kite::testing;

@@ -53,7 +53,4 @@ int heightOf(const std::string& font);
 // The dialog's vertical unit, of the font that it is given by "fnamm".
 double unitOf(const std::string& font);
 
-// Another name for a font that the server has, from now on.
-void giveServerFont(const std::string& name, const std::string& font);
-
 }  // namespace kite::testing
