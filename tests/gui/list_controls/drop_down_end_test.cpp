@@ -16,6 +16,7 @@ int windowsOnScreen()
     Display* const display = XtDisplay(App::instance().shell());
     Window root = 0, parent = 0, *windows = nullptr;
     unsigned count = 0;
+    XGrabServer(display);  // windows of the manager's go at any time
     XQueryTree(display, DefaultRootWindow(display), &root, &parent, &windows, &count);
     int visible = 0;
     for (unsigned i = 0; i < count; ++i) {
@@ -24,6 +25,8 @@ int windowsOnScreen()
             attributes.map_state == IsViewable && attributes.c_class == InputOutput)
             ++visible;
     }
+    XUngrabServer(display);
+    XSync(display, False);
     XFree(windows);
     return visible;
 }

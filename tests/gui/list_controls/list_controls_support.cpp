@@ -169,7 +169,10 @@ bool isOpen(int id)
 
 bool waitUntilOpen(int id)
 {
-    return pumpUntil([&] { return isOpen(id); }) && screen::waitUntilPainted(listOf(id));
+    if (!pumpUntil([&] { return isOpen(id); }) || !screen::waitUntilPainted(listOf(id)))
+        return false;
+    const milliseconds doubleClickTime{XtGetMultiClickTime(XtDisplay(App::instance().shell()))};
+    return holdsFor([&] { return isOpen(id); }, doubleClickTime + milliseconds{50});
 }
 
 bool waitUntilClosed(int id)

@@ -49,7 +49,8 @@ void clickItem(int id, int index, unsigned modifiers = NoModifier);
 void doubleClickItem(int id, int index);
 void clickArrow(int id);
 
-// The list of a choice or combo box that has dropped down.
+// The list of a choice or combo box that has dropped down. The toolkit takes a click in it that comes within
+// the double-click time for a part of the click on the arrow.
 bool isOpen(int id);
 bool waitUntilOpen(int id);
 bool waitUntilClosed(int id);

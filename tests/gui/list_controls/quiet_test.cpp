@@ -103,9 +103,9 @@ GUI_TEST(ListQuiet, BeingShownIsNoEvent)
     recorder.clear();
     runDialog({.build =
                    [] {
-                       guiCombo(kCombo, 0, 0, 60);
-                       guiList(kList, 1, 3, 0, 60, GUI_BROWSE);
-                       guiChoice(kChoice, 5, 0, 60);
+                       guiList(kList, 0, 3, 0, 60, GUI_BROWSE);
+                       guiChoice(kChoice, 4, 0, 60);
+                       guiCombo(kCombo, 5, 0, 60);
                    },
                .fill =
                    [] {

@@ -9,13 +9,14 @@ using namespace kite::testing;
 
 namespace {
 
-enum Id { kList = 1, kChoice, kCombo };
+enum Id { kList = 1, kChoice, kCombo, kLabel };
 
 void build(int selectionMode = GUI_BROWSE)
 {
     guiList(kList, 0, 4, 0, 80, selectionMode);
     guiChoice(kChoice, 4, 0, 80);
     guiCombo(kCombo, 5, 0, 80);
+    guiLabel(kLabel, 6, 0, 80, "Label");  // in the dialog's font
 }
 
 void withControls(const std::function<void()>& look)
@@ -59,7 +60,6 @@ GUI_TEST(ListResources, OfAList)
     withControls([] {
         Widget const scrolled = controlOf(kList);
         expectResource<Dimension>(scrolled, XmNshadowThickness, 2);
-        expectResource<Dimension>(scrolled, XmNhighlightThickness, 1);
         expectResource<Dimension>(scrolled, XmNspacing, 0);
 
         Widget const list = listOf(kList);
@@ -67,7 +67,7 @@ GUI_TEST(ListResources, OfAList)
         expectResource<Dimension>(list, XmNhighlightThickness, 1);
         expectResource<unsigned char>(list, XmNlistSizePolicy, XmCONSTANT);
         expectBlackOnWhite(list);
-        EXPECT_EQ(fontOf(list), fontOf(newestBoard()));
+        EXPECT_EQ(fontOf(list), fontOf(controlOf(kLabel)));
     });
 }
 
@@ -146,7 +146,7 @@ GUI_TEST(ListResources, OfAChoiceAndACombo)
             expectBlackOnWhite(field);
 
             for (Widget const part : {box, list, field})
-                EXPECT_EQ(fontOf(part), fontOf(newestBoard())) << XtName(part);
+                EXPECT_EQ(fontOf(part), fontOf(controlOf(kLabel))) << XtName(part);
         }
         expectResource<Boolean>(fieldOf(kChoice), XmNeditable, False);
         expectResource<Boolean>(fieldOf(kCombo), XmNeditable, True);
