@@ -208,3 +208,21 @@ GUI_STARTUP_TEST(ListScroll, IsNotPossibleWithFewItems)
         },
         3);
 }
+
+// The host may close the dialog, and with it the bar that was moved.
+GUI_STARTUP_TEST(ListScroll, HandlerMayCloseTheDialog)
+{
+    setDialogFont(kSmallFont);
+    app.run([this] {
+        ASSERT_EQ(guiDialog(""), 0);
+        guiList(kList, 0, 8, 0, 80, GUI_BROWSE);
+        recorder.onEvent(GUI_EVENT_INIT, [] { appendItems(kList, kItems); });
+        recorder.onEvent(GUI_EVENT_SCROLLED, kList, [] { guiClose(64); });
+        app.whenShown("v_dlgbbr", [this](Shown) {
+            robot.moveTo(verticalBarOf(kList), onBar(-kInArrow));
+            robot.click();
+        });
+        EXPECT_EQ(guiRunDialog(recorder.dialogHandler()), 64);
+        EXPECT_FALSE(newestBoard());
+    });
+}

@@ -104,6 +104,21 @@ GUI_TEST(ListResources, OfTheScrollBars)
     });
 }
 
+// It keeps its size, however many and however long its items are.
+GUI_TEST(ListResources, ListDoesNotGrowWithItsItems)
+{
+    runDialog({.build = [] { build(); },
+               .use =
+                   [](Shown) {
+                       const Rect before = placeOf(controlOf(kList));
+                       appendItems(kList, 50);
+                       guiAppendItem(kList, std::string(500, 'W').c_str());
+                       settle();
+                       EXPECT_EQ(placeOf(controlOf(kList)), before);
+                       EXPECT_LT(placeOf(listOf(kList)).width, before.width);
+                   }});
+}
+
 GUI_TEST(ListResources, OfAChoiceAndACombo)
 {
     withControls([] {
@@ -135,6 +150,16 @@ GUI_TEST(ListResources, OfAChoiceAndACombo)
         }
         expectResource<Boolean>(fieldOf(kChoice), XmNeditable, False);
         expectResource<Boolean>(fieldOf(kCombo), XmNeditable, True);
+    });
+}
+
+// That of a choice is wider than any screen, that of a combo box as wide as the control: so they are made,
+// whatever the toolkit does of it when they drop down.
+GUI_TEST(ListResources, WidthOfTheDropDownLists)
+{
+    withControls([] {
+        expectResource<Dimension>(listOf(kChoice), XmNwidth, 5000);
+        expectResource<Dimension>(listOf(kCombo), XmNwidth, placeOf(controlOf(kCombo)).width);
     });
 }
 
