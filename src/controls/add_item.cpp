@@ -1,6 +1,5 @@
 // add_item.cpp: adds items to lists, choices and combo boxes.
 
-#include <Xm/ComboBox.h>
 #include <Xm/List.h>
 #include <kitegui.h>
 
@@ -29,7 +28,7 @@ void addToList(Widget list, XmString item, int position)
 
 void addToDropDown(Widget box, Widget list, XmString item, int position)
 {
-    XmComboBoxAddItem(box, item, position, False);
+    insertItem(box, item, position);
     fitDropDownList(box);
     if (itemCount(list) == 1) selectPosition(box, 0);
 }

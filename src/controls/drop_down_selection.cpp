@@ -23,10 +23,9 @@ bool hasSelection(Widget box)
     return resource<int>(listOf(box), XmNselectedPositionCount) > 0;
 }
 
-// The toolkit notes every change of the text as typed, and reports it when the box is left.
-void forgetTyping(Widget box)
+bool isTyped(Widget box)
 {
-    reinterpret_cast<XmComboBoxWidget>(box)->combo_box.text_changed = False;
+    return reinterpret_cast<XmComboBoxWidget>(box)->combo_box.text_changed;
 }
 
 void clearText(Widget box)
@@ -36,6 +35,12 @@ void clearText(Widget box)
 }
 
 }  // namespace
+
+// The toolkit notes every change of the text as typed, and reports it when the box is left.
+void forgetTyping(Widget box)
+{
+    reinterpret_cast<XmComboBoxWidget>(box)->combo_box.text_changed = False;
+}
 
 int selectedPosition(Widget box)
 {
@@ -58,18 +63,28 @@ void clearSelection(Widget box)
     clearText(box);
 }
 
+// The toolkit sets the text once more, unless something has been typed.
+void insertItem(Widget box, XmString item, int toolkitPosition)
+{
+    const bool wasTyped = isTyped(box);
+    XmComboBoxAddItem(box, item, toolkitPosition, False);
+    if (!wasTyped) forgetTyping(box);
+}
+
 // When the selected item goes the toolkit selects the one behind it, but none for the last item, and
 // goes on showing what is not there any more.
 void deleteItem(Widget box, int toolkitPosition)
 {
     Widget const list = listOf(box);
     const bool hadSelection = hasSelection(box);
+    const bool wasTyped = isTyped(box);
     XmComboBoxDeletePos(box, toolkitPosition);
     fitDropDownList(box);
     const int count = itemCount(list);
     if (count == 0) return clearText(box);
     if (hadSelection && !hasSelection(box)) selectPosition(box, count - 1);
     XmComboBoxUpdate(box);
+    if (!wasTyped) forgetTyping(box);
 }
 
 void deleteAllItems(Widget box)

@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include <X11/Intrinsic.h>
+#include <Xm/Xm.h>
 
 namespace kite {
 
@@ -14,6 +14,12 @@ void selectPosition(Widget box, int position);
 
 // No item is selected and the text is empty.
 void clearSelection(Widget box);
+
+// The text is the host's: nothing has been typed that the toolkit would report when the box is left.
+void forgetTyping(Widget box);
+
+// Adds an item at a position of the toolkit's; 0 is the end.
+void insertItem(Widget box, XmString item, int toolkitPosition);
 
 // Deletes an item at a position of the toolkit's: one that it does not have changes nothing.
 void deleteItem(Widget box, int toolkitPosition);

@@ -11,6 +11,7 @@
 #include <cstdlib>
 
 #include "controls/control_lookup.h"
+#include "controls/drop_down_selection.h"
 #include "controls/edited_text.h"
 #include "controls/value_range.h"
 #include "dialogs/text_field.h"
@@ -49,6 +50,7 @@ void setComboText(Widget combo, const char* text)
     clearField(combo);
     const CompoundString item{text};
     XtVaSetValues(combo, XmNselectedItem, item.get(), nullptr);
+    forgetTyping(combo);
 }
 
 // The number itself, other than guiSetPos, which counts from the one before: hosts use both.

@@ -1,0 +1,116 @@
+// The dialog is closed while a list has dropped down: nothing of it stays, and the mouse is free again.
+
+#include "list_controls_support.h"
+
+using namespace kite::testing;
+using ::testing::ElementsAre;
+
+namespace {
+
+constexpr int kBox = 5;
+constexpr int kButton = 6;
+
+// Windows of the display that can be seen.
+int windowsOnScreen()
+{
+    Display* const display = XtDisplay(App::instance().shell());
+    Window root = 0, parent = 0, *windows = nullptr;
+    unsigned count = 0;
+    XGrabServer(display);  // windows of the manager's go at any time
+    XQueryTree(display, DefaultRootWindow(display), &root, &parent, &windows, &count);
+    int visible = 0;
+    for (unsigned i = 0; i < count; ++i) {
+        XWindowAttributes attributes;
+        if (XGetWindowAttributes(display, windows[i], &attributes) &&
+            attributes.map_state == IsViewable && attributes.c_class == InputOutput)
+            ++visible;
+    }
+    XUngrabServer(display);
+    XSync(display, False);
+    XFree(windows);
+    return visible;
+}
+
+void expectMouseIsFree()
+{
+    runDialog({.build = [] { guiButton(kButton, 0, 0, 40, "OK", 0); },
+               .use =
+                   [](Shown) {
+                       EXPECT_THAT(
+                           eventsDuring([] { Robot::instance().click(controlOf(kButton)); }),
+                           ElementsAre(toDialog(GUI_EVENT_COMMAND, kButton)));
+                   }});
+}
+
+void closeWhileOpen(const std::function<void(int)>& make, const std::function<void()>& close)
+{
+    const int before = windowsOnScreen();
+    ASSERT_EQ(guiDialog(""), 0);
+    make(kBox);
+    guiLabel(-1, 9, 0, 80, "Room for the list");
+    Recorder::instance().onEvent(GUI_EVENT_INIT, [] {
+        if (guiIdStatus(kBox) >= 0) appendItems(kBox, 20);
+    });
+    App::instance().whenShown("v_dlgbbr", [&](Shown) {
+        clickArrow(kBox);
+        EXPECT_TRUE(waitUntilOpen(kBox));
+        close();
+    });
+    EXPECT_EQ(guiRunDialog(Recorder::dialogHandler()), 3);
+    EXPECT_FALSE(newestBoard());
+    EXPECT_TRUE(pumpUntil([&] { return windowsOnScreen() == before; }));
+    expectMouseIsFree();
+}
+
+void forBothKinds(const std::function<void()>& close)
+{
+    {
+        SCOPED_TRACE("choice");
+        closeWhileOpen([](int id) { guiChoice(id, 0, 0, 80); }, close);
+    }
+    {
+        SCOPED_TRACE("combo box");
+        closeWhileOpen([](int id) { guiCombo(id, 0, 0, 80); }, close);
+    }
+}
+
+}  // namespace
+
+GUI_TEST(DropDownEnd, ByTheHost)
+{
+    forBothKinds([] { guiClose(3); });
+}
+
+GUI_TEST(DropDownEnd, ByTheTimer)
+{
+    recorder.onEvent(GUI_EVENT_TIMER, [] { guiClose(3); });
+    forBothKinds([] { guiTimer(100); });
+}
+
+GUI_TEST(DropDownEnd, ByThePick)
+{
+    recorder.onEvent(GUI_EVENT_VALUE, kBox, [] { guiClose(3); });
+    forBothKinds([this] {
+        Widget const list = listOf(kBox);
+        robot.moveTo(list, middleOfItem(list, 2));
+        robot.click();
+    });
+}
+
+// An arrow that is held goes as well.
+GUI_TEST(DropDownEnd, OfAHiddenOrDisabledControl)
+{
+    runDialog({.build =
+                   [] {
+                       guiChoice(kBox, 0, 0, 80);
+                       guiLabel(-1, 9, 0, 80, "Room for the list");
+                   },
+               .fill = [] { appendItems(kBox, 20); },
+               .use =
+                   [](Shown) {
+                       clickArrow(kBox);
+                       ASSERT_TRUE(waitUntilOpen(kBox));
+                       guiSetVisible(kBox, 0);
+                   }});
+    expectMouseIsFree();
+}
