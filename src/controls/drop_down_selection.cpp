@@ -23,6 +23,13 @@ bool hasSelection(Widget box)
     return resource<int>(listOf(box), XmNselectedPositionCount) > 0;
 }
 
+// The toolkit warns of others. 0 is the last item.
+bool hasPosition(Widget list, int toolkitPosition)
+{
+    const int count = itemCount(list);
+    return count > 0 && toolkitPosition >= 0 && toolkitPosition <= count;
+}
+
 // The toolkit notes every change of the text as typed, and reports it when the box is left.
 void forgetTyping(Widget box)
 {
@@ -64,7 +71,7 @@ void deleteItem(Widget box, int toolkitPosition)
 {
     Widget const list = listOf(box);
     const bool hadSelection = hasSelection(box);
-    XmComboBoxDeletePos(box, toolkitPosition);
+    if (hasPosition(list, toolkitPosition)) XmComboBoxDeletePos(box, toolkitPosition);
     fitDropDownList(box);
     const int count = itemCount(list);
     if (count == 0) return clearText(box);
