@@ -171,7 +171,9 @@ std::string someText(int id, std::mt19937& random)
                                                    "-3x", "abcdefghi", "abcdefghij", "abcdefghiX"};
     static const std::vector<std::string> lines = {"",          "a",     "two\nlines", "\n",
                                                    "long line", "end\n", "\n\nlate"};
-    return oneOf(id == MultiLine ? lines : items, random);
+    const std::string& text = oneOf(id == MultiLine ? lines : items, random);
+    const bool isDropDown = id == ChoiceBox || id == Combo;
+    return isDropDown && text.empty() ? "0" : text;
 }
 
 }  // namespace
@@ -282,7 +284,9 @@ ItemStep randomStep(std::mt19937& random)
     const Form form = described(step.call).form;
     if (form == Form::Buffer || form == Form::NumberAndBuffer) step.b = oneOf(sizes, random);
     if (form == Form::Array) step.b = 1 + static_cast<int>(random() % 8);
-    if (step.call == Call::AddTree && step.b == 0) step.b = 1;  // the root's
+    if (step.call != Call::AddTree) return step;
+    if (step.b == 0) step.b = 1;            // the root's
+    step.text += std::to_string(random());  // keys alone do not tell items apart
     return step;
 }
 

@@ -133,6 +133,7 @@ private:
     void selectAll()
     {
         for (int i = 0; i < count(); ++i) selected_.insert(i);
+        cursor_ = count() - 1;
     }
 
     int selectionCount() const { return selectsSeveral() ? static_cast<int>(selected_.size()) : 1; }
@@ -161,7 +162,7 @@ private:
         if (!has(index)) return;
         if (!selectsSeveral()) selected_.clear();
         selected_.insert(index);
-        if (selected_.size() == 1) cursor_ = index;
+        cursor_ = *selected_.rbegin();  // the toolkit's, and for a single one the operation's
     }
 
     void deselectAll()
@@ -261,9 +262,10 @@ private:
 
     void type(const std::string& text)
     {
+        text_ = text;
+        if (text.empty()) return;  // the toolkit selects nothing else for it
         const auto found = std::find(items_.begin(), items_.end(), text);
         selected_ = found == items_.end() ? -1 : static_cast<int>(found - items_.begin());
-        text_ = text;
     }
 
     // The toolkit's position is 0 when nothing is selected.

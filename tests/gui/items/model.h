@@ -18,6 +18,9 @@ public:
     virtual ~ControlModel() = default;
     virtual std::string answer(const ItemStep& step) = 0;  // and does it
     virtual std::string state() const = 0;
+
+    // What the step has left that only the toolkit knows.
+    virtual void takeOver(const ItemStep&, const std::string& /*state*/) {}
 };
 
 enum class Selects { One, Extended, Multiple };
@@ -33,6 +36,11 @@ public:
     Model();
     std::string answer(const ItemStep& step) { return controls_.at(step.id)->answer(step); }
     std::string state(int id) const { return controls_.at(id)->state(); }
+
+    void takeOver(const ItemStep& step, const std::string& state)
+    {
+        controls_.at(step.id)->takeOver(step, state);
+    }
 
 private:
     std::map<int, std::unique_ptr<ControlModel>> controls_;

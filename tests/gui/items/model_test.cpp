@@ -37,6 +37,7 @@ std::optional<Difference> firstDifference(const Steps& steps)
         if (answer != expected)
             return Difference{i, "answers " + inQuotes(answer) + " and not " + inQuotes(expected)};
         const std::string state = stateOfControl(step.id);
+        model.takeOver(step, state);
         const std::string expectedState = model.state(step.id);
         if (state != expectedState)
             return Difference{i, "\n    leaves " + state + "\n       not " + expectedState};

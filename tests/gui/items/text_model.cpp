@@ -12,7 +12,7 @@ public:
     {
         switch (step.call) {
         case Call::AppendLine: return append(step.text + '\n'), "";
-        case Call::AppendHTML: return append(step.text + ' '), "";  // without markup
+        case Call::AppendHTML: return appendHtml(step.text), "";
         case Call::RemoveAll: return replaceAll(""), "";
         case Call::SetText: return replaceAll(step.text), "";
         case Call::InsertText: return insert(step.text), "";
@@ -61,7 +61,20 @@ private:
         return cut(all[static_cast<std::size_t>(number)], size);
     }
 
-    void append(const std::string& text) { text_ += text; }
+    // What is changed at the edge of a selection ends it.
+    void append(const std::string& text)
+    {
+        if (last_ == text_.size()) first_ = last_;
+        text_ += text;
+    }
+
+    // Without markup it is the text and a blank. The insertion point at the end moves on.
+    void appendHtml(const std::string& html)
+    {
+        const bool wasAtEnd = caret_ == text_.size();
+        append(html + ' ');
+        if (wasAtEnd) caret_ = text_.size();
+    }
 
     void replaceAll(const std::string& text)
     {

@@ -51,6 +51,25 @@ public:
                (selected_ ? std::to_string(selected_->key) + inQuotes(selected_->label) : "");
     }
 
+    // Where the container puts what moves to the top level is its own business: it is taken over.
+    void takeOver(const ItemStep& step, const std::string& state) override
+    {
+        if (step.call != Call::RemoveItem && step.call != Call::RemoveAll) return;
+        Items ordered;
+        std::size_t seen = 0;
+        while (!root_.empty()) {
+            const auto next = std::find_if(root_.begin(), root_.end(), [&](const auto& item) {
+                return state.compare(seen, written(*item).size(), written(*item)) == 0;
+            });
+            if (next == root_.end()) break;  // a difference
+            seen += written(**next).size();
+            ordered.push_back(std::move(*next));
+            root_.erase(next);
+        }
+        std::move(root_.begin(), root_.end(), std::back_inserter(ordered));
+        root_ = std::move(ordered);
+    }
+
 private:
     using Items = std::vector<std::unique_ptr<Item>>;
 
@@ -60,14 +79,17 @@ private:
         return answerOf(static_cast<int>(part.size()), part);
     }
 
+    static std::string written(const Item& item)
+    {
+        std::string all = std::to_string(item.key) + inQuotes(item.label);
+        if (!item.below.empty()) all += "( " + written(item.below) + ')';
+        return all + ' ';
+    }
+
     static std::string written(const Items& items)
     {
         std::string all;
-        for (const auto& item : items) {
-            all += std::to_string(item->key) + inQuotes(item->label);
-            if (!item->below.empty()) all += "( " + written(item->below) + ')';
-            all += ' ';
-        }
+        for (const auto& item : items) all += written(*item);
         return all;
     }
 
@@ -123,8 +145,7 @@ private:
         spot.item().below.clear();
         forget(spot.item());
         spot.erase();
-        // The container keeps their numbers among their siblings, and each was the first when it went.
-        for (auto& child : children) root_.insert(root_.begin(), std::move(child));
+        for (auto& child : children) root_.push_back(std::move(child));
     }
 
     void removeTopLevel()
