@@ -84,9 +84,8 @@ void selectInList(const Control& list, int index)
 
 // The end of what is selected is the length of the line, not its end: for the first line that is the same,
 // and hosts have been written for what the others give. An empty line is as long as all that follows.
-void selectLine(int id, Widget text, int line)
+void selectLine(Widget text, int line)
 {
-    if (line > guiGetLineCount(id)) return;
     const LineStarts* const lines = parkCopy(text);
     if (!lines) {
         reportMisuse("GetLine: out of memory");
@@ -110,14 +109,14 @@ void clearText(Widget text)
     XmTextShowPosition(text, 0);
 }
 
-void select(const Control& control, int id, int index)
+void select(const Control& control, int index)
 {
     const EventsSuppressed quiet;
     switch (control.type) {
     case Edit: return selectTo(control.widget, index);
     case Spin: return selectTo(fieldOf(control.widget), index);
     case List: return selectInList(control, index);
-    case Text: return selectLine(id, control.widget, index);
+    case Text: return selectLine(control.widget, index);
     case Tree: return selectTreeItem(control.widget, index);
     default: return selectInDropDown(control.widget, index);
     }
@@ -144,7 +143,7 @@ void guiSelAll(int id)
 
 void guiSetSel(int id, int index)
 {
-    if (const Control control = findControl("SetSel", id, kSelectable)) select(control, id, index);
+    if (const Control control = findControl("SetSel", id, kSelectable)) select(control, index);
 }
 
 // What has no selection to clear is left alone without a word, other than by most operations.
