@@ -43,7 +43,7 @@ ModalBox::~ModalBox()
     Widget const box = box_.get();
     if (!box) return;
     XtUnmanageChild(box);
-    XtDestroyWidget(XtParent(box));
+    destroyShell(XtParent(box));
 }
 
 Widget ModalBox::child(unsigned char which) const

@@ -6,6 +6,7 @@
 #include "controls/drop_down_selection.h"
 #include "controls/item_number.h"
 #include "controls/items.h"
+#include "controls/kept_size.h"
 #include "controls/list_selection.h"
 #include "dialogs/drop_down.h"
 #include "frame/dispatcher.h"
@@ -39,6 +40,7 @@ void addItem(const char* operation, int id, int index, const char* text)
     if (!control) return;
     const CompoundString item{itemTextOf(text).c_str()};
     const EventsSuppressed quiet;
+    const KeptSize size{control.outer};
     if (control.type == ControlType::List)
         addToList(control.widget, item.get(), positionOf(index));
     else

@@ -23,6 +23,13 @@ bool hasSelection(Widget box)
     return resource<int>(listOf(box), XmNselectedPositionCount) > 0;
 }
 
+// The toolkit warns of others. 0 is the last item.
+bool hasPosition(Widget list, int toolkitPosition)
+{
+    const int count = itemCount(list);
+    return count > 0 && toolkitPosition >= 0 && toolkitPosition <= count;
+}
+
 bool isTyped(Widget box)
 {
     return reinterpret_cast<XmComboBoxWidget>(box)->combo_box.text_changed;
@@ -78,7 +85,7 @@ void deleteItem(Widget box, int toolkitPosition)
     Widget const list = listOf(box);
     const bool hadSelection = hasSelection(box);
     const bool wasTyped = isTyped(box);
-    XmComboBoxDeletePos(box, toolkitPosition);
+    if (hasPosition(list, toolkitPosition)) XmComboBoxDeletePos(box, toolkitPosition);
     fitDropDownList(box);
     const int count = itemCount(list);
     if (count == 0) return clearText(box);

@@ -79,10 +79,12 @@ void selectItem(Widget list, int index)
     XmListSelectPos(list, positionOf(index), False);
 }
 
-// All at once: the toolkit looks through the whole list for each single one.
+// All at once: the toolkit looks through the whole list for each single one. Deselected first: it would read
+// what it has just freed of the items that were selected.
 void selectAllItems(Widget list)
 {
     const AsMultiple scope{list};
+    XmListDeselectAllItems(list);
     std::vector<int> positions(static_cast<std::size_t>(itemCount(list)));
     std::iota(positions.begin(), positions.end(), 1);
     XtVaSetValues(list, XmNselectedPositions, positions.data(), XmNselectedPositionCount,

@@ -7,6 +7,7 @@
 #include "controls/drop_down_selection.h"
 #include "controls/edited_text.h"
 #include "controls/items.h"
+#include "controls/kept_size.h"
 #include "controls/list_selection.h"
 #include "controls/tree_items.h"
 #include "frame/dispatcher.h"
@@ -42,6 +43,7 @@ void removeFromList(Widget list, int index)
 void removeFrom(const Control& control, int index)
 {
     const EventsSuppressed quiet;
+    const KeptSize size{control.outer};
     switch (control.type) {
     case List: return removeFromList(control.widget, index);
     case Tree:
@@ -54,6 +56,7 @@ void removeFrom(const Control& control, int index)
 void clear(const Control& control)
 {
     const EventsSuppressed quiet;
+    const KeptSize size{control.outer};
     switch (control.type) {
     case List: return XmListDeleteAllItems(control.widget);
     case Tree: return destroyTopLevel(control.widget);

@@ -84,9 +84,8 @@ void selectInList(const Control& list, int index)
 
 // The end of what is selected is the length of the line, not its end: for the first line that is the same,
 // and hosts have been written for what the others give. An empty line is as long as all that follows.
-void selectLine(int id, Widget text, int line)
+void selectLine(Widget text, int line)
 {
-    if (line > guiGetLineCount(id)) return;
     const LineStarts* const lines = parkCopy(text);
     if (!lines) {
         reportMisuse("GetLine: out of memory");
@@ -110,14 +109,20 @@ void clearText(Widget text)
     XmTextShowPosition(text, 0);
 }
 
-void select(const Control& control, int id, int index)
+bool hasSelectionToClear(const Control& control)
+{
+    if (control.type == List) return selectsSeveral(control.widget);
+    return kTexts.has(control.type) || control.type == Combo;
+}
+
+void select(const Control& control, int index)
 {
     const EventsSuppressed quiet;
     switch (control.type) {
     case Edit: return selectTo(control.widget, index);
     case Spin: return selectTo(fieldOf(control.widget), index);
     case List: return selectInList(control, index);
-    case Text: return selectLine(id, control.widget, index);
+    case Text: return selectLine(control.widget, index);
     case Tree: return selectTreeItem(control.widget, index);
     default: return selectInDropDown(control.widget, index);
     }
@@ -144,30 +149,29 @@ void guiSelAll(int id)
 
 void guiSetSel(int id, int index)
 {
-    if (const Control control = findControl("SetSel", id, kSelectable)) select(control, id, index);
+    if (const Control control = findControl("SetSel", id, kSelectable)) select(control, index);
 }
 
 // What has no selection to clear is left alone without a word, other than by most operations.
 void guiClrAll(int id)
 {
     const Control control = findControl("ClrAll", id);
-    if (!control) return;
+    if (!control || !hasSelectionToClear(control)) return;
     const EventsSuppressed quiet;
-    if (control.type == List && selectsSeveral(control.widget))
-        XmListDeselectAllItems(control.widget);
-    else if (kTexts.has(control.type))
-        clearText(control.widget);
-    else if (control.type == Combo)
-        clearSelection(control.widget);
+    switch (control.type) {
+    case List: return XmListDeselectAllItems(control.widget);
+    case Combo: return clearSelection(control.widget);
+    default: return clearText(control.widget);
+    }
 }
 
 void guiClrSel(int id, int index)
 {
     const Control control = findControl("ClrSel", id);
-    if (!control) return;
+    if (!control || kTexts.has(control.type) || !hasSelectionToClear(control)) return;
     const EventsSuppressed quiet;
-    if (control.type == List && selectsSeveral(control.widget) && itemAt(control.widget, index))
-        XmListDeselectPos(control.widget, positionOf(index));
-    else if (control.type == Combo)
+    if (control.type == Combo)
         clearSelection(control.widget);
+    else if (itemAt(control.widget, index))
+        XmListDeselectPos(control.widget, positionOf(index));
 }

@@ -47,7 +47,7 @@ void clearField(Widget composed)
 
 void setComboText(Widget combo, const char* text)
 {
-    clearField(combo);
+    clearSelection(combo);
     const CompoundString item{text};
     XtVaSetValues(combo, XmNselectedItem, item.get(), nullptr);
     forgetTyping(combo);

@@ -42,7 +42,7 @@ Run::Run(Widget dialog) : shell(shellOf(dialog)), board(dialog), outer(innermost
 Run::~Run()
 {
     innermost = outer;
-    if (Widget const remaining = shell.get()) XtDestroyWidget(remaining);
+    if (Widget const remaining = shell.get()) destroyShell(remaining);
     periodicTimer::stop();
     hover::leave();
 }

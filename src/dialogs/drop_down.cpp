@@ -24,6 +24,9 @@ namespace {
 
 constexpr int kWide = 5000;  // pixels
 
+// Of a list whose items have no height, because all of them are empty, the toolkit computes the size for ever.
+constexpr int kHighlight = 2;  // pixels
+
 Widget listOf(Widget box)
 {
     return resource<Widget>(box, XmNlist);
@@ -44,10 +47,10 @@ void selected(Widget box, XtPointer tag, XtPointer)
     raise(GUI_EVENT_VALUE, Tag{tag}.id(), position);
 }
 
-void prepareList(Widget list, int width)
+void prepareList(Widget list)
 {
-    XtVaSetValues(list, XmNwidth, asDimension(width), XmNvisibleItemCount, mostItemsShown(),
-                  XmNshadowThickness, 1, XmNforeground, blackPixel(list), XmNbackground,
+    XtVaSetValues(list, XmNvisibleItemCount, mostItemsShown(), XmNshadowThickness, 1,
+                  XmNhighlightThickness, kHighlight, XmNforeground, blackPixel(list), XmNbackground,
                   whitePixel(list), nullptr);
     reportFocusGain(list);
 }
@@ -71,9 +74,12 @@ Widget createDropDown(const DropDownKind& kind, Tag tag, int row, int x, int wid
         XmNnavigationType, kTabStop, XmNshadowThickness, 1, XmNhighlightThickness, 1,
         XmNmarginWidth, 1, XmNmarginHeight, 1, XmNfontList, building::font());
     if (!box) return nullptr;
-    prepareList(listOf(box), kind.hasWideList ? kWide : place.width);
+    prepareList(listOf(box));
     prepareField(fieldOf(box), place);
     XtVaSetValues(box, XmNheight, asDimension(place.height), nullptr);
+    // Last, as each of these lays out the list. On the screen it is as wide as the box.
+    XtVaSetValues(listOf(box), XmNwidth, kind.hasWideList ? kWide : asDimension(place.width),
+                  nullptr);
     // The field has the keyboard, and lies under the pointer.
     for (Widget const part : {box, fieldOf(box)}) reportCommonEvents(part, tag);
     XtAddCallback(box, XmNselectionCallback, selected, tag.userData());

@@ -40,7 +40,7 @@ void closeDialog(Widget dialog)
     Widget const shell = shellOf(dialog);
     Widget const parent = XtParent(shell);
     if (dialog != shell) XtUnmanageChild(dialog);
-    XtDestroyWidget(shell);
+    destroyShell(shell);
     setTopWindow(parent && parent != widgets().shell ? parent : mainWindow());
 }
 
@@ -85,7 +85,7 @@ void close()
     setMainWindow(nullptr);
     setTopWindow(nullptr);
     XtUnmanageChild(mainWindow.get());
-    XtDestroyWidget(shell);
+    destroyShell(shell);
 }
 
 }  // namespace kite::frame

@@ -11,6 +11,12 @@ Widget shellOf(Widget widget)
     return widget;
 }
 
+void destroyShell(Widget shell)
+{
+    XtUngrabKeyboard(shell, CurrentTime);
+    XtDestroyWidget(shell);
+}
+
 void onCloseRequest(Widget shell, XtCallbackProc callback, XtPointer data)
 {
     XtVaSetValues(shell, XmNdeleteResponse, XmDO_NOTHING, nullptr);

@@ -18,6 +18,7 @@ constexpr EnvironmentOption kOwnOptions[] = {
     {"--wm=", "KITE_TEST_WM"},
     {"--screen=", "KITE_TEST_SCREEN"},
     {"--deadline=", "KITE_TEST_DEADLINE"},
+    {"--seed=", "KITE_TEST_SEED"},
 };
 
 std::optional<std::string> valueOf(std::string_view argument, std::string_view prefix)

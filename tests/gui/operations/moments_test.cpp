@@ -46,7 +46,7 @@ GUI_TEST(Moments, ABoxHidesTheDialogsControls)
     runDialog({.build = buildSimpleKinds, .look = [&](Shown) {
                    makeOtherKinds();
                    app.whenShown("v_infobox", [&](Shown box) {
-                       for (const Operation& operation : allOperations()) {
+                       for (const Operation& operation : controlOperations()) {
                            SCOPED_TRACE(operation.function);
                            const int id = *operation.kinds.begin();
                            const std::string message = operation.name + ": no control with id " +

@@ -77,7 +77,9 @@ void writeState(std::ostream& out, Widget widget)
         write<XmTextPosition>(out, widget, XmNcursorPosition);
     }
     if (XmIsText(widget)) write<XmTextPosition>(out, widget, XmNtopCharacter);
-    if (XmIsList(widget)) write<int>(out, widget, XmNtopItemPosition);
+    if (XmIsList(widget))
+        for (const char* const name : {XmNtopItemPosition, XmNitemCount, XmNselectedPositionCount})
+            write<int>(out, widget, name);
     if (XmIsScale(widget))
         for (const char* const name : {XmNvalue, XmNminimum, XmNmaximum})
             write<int>(out, widget, name);
@@ -89,7 +91,7 @@ void writeState(std::ostream& out, Widget widget)
 
 }  // namespace
 
-const std::vector<Operation>& allOperations()
+const std::vector<Operation>& controlOperations()
 {
     static const std::vector<Operation> operations = {
         {"guiIdStatus", "IdStatus", kAll, true, -1, guiIdStatus},
@@ -129,6 +131,16 @@ const std::vector<Operation>& allOperations()
         {"guiGetPos", "GetPos", kPositioned, false, -1, guiGetPos},
         {"guiSetPos", "SetPos", kPositionable, false, 0,
          quietly([](int id) { guiSetPos(id, 1); })}};
+    return operations;
+}
+
+const std::vector<Operation>& allOperations()
+{
+    static const std::vector<Operation> operations = [] {
+        std::vector<Operation> all = controlOperations();
+        all.insert(all.end(), itemOperations().begin(), itemOperations().end());
+        return all;
+    }();
     return operations;
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -18,10 +19,13 @@ struct Operation {
     bool isQuiet;         // says nothing of an id that does not exist
     double failure;       // what it returns then; 0 where it returns nothing
     std::function<double(int id)> call;
+    std::optional<double> refusal = {};  // what it returns for another kind, if not the failure
 };
 
 // With arguments that would change a control.
 const std::vector<Operation>& allOperations();
+const std::vector<Operation>& controlOperations();  // on what all or many kinds have
+const std::vector<Operation>& itemOperations();     // on items, lines, selections and trees
 
 // Everything of the dialog that an operation could change, written out.
 std::string stateOfDialog();

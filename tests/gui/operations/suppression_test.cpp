@@ -70,7 +70,7 @@ GUI_TEST(Suppression, OperationsThatChangeAControlEndIt)
 {
     guiWriteLine("one");
     withBuiltKinds([] {
-        for (const Operation& operation : allOperations())
+        for (const Operation& operation : controlOperations())
             for (const int kind : operation.kinds) {
                 SCOPED_TRACE(operation.function + ' ' + std::to_string(kind));
                 keepBack();
@@ -85,7 +85,7 @@ GUI_TEST(Suppression, OthersDoNotBeginIt)
 {
     guiWriteLine("one");
     withBuiltKinds([] {
-        for (const Operation& operation : allOperations()) {
+        for (const Operation& operation : controlOperations()) {
             if (operation.function == "guiGetPos") continue;
             for (const int kind : operation.kinds) {
                 letPass();
