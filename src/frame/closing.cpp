@@ -33,6 +33,13 @@ void saveGeometry(Widget shell)
     if (widgets().shell == shell) settings::saveGeometry(placeOf(shell));
 }
 
+// A slider or scroll bar that is being dragged, and a text in which something is being selected, have grabbed
+// the keyboard. Xt would go on sending keys there when the widget is gone.
+void releaseKeyboard(Widget shell)
+{
+    XtUngrabKeyboard(shell, XtLastTimestampProcessed(XtDisplay(shell)));
+}
+
 // A dialog or box lives in a shell of its own below the window that it belongs to. A host's widget may
 // live anywhere else: then the frame is next.
 void closeDialog(Widget dialog)
@@ -40,6 +47,7 @@ void closeDialog(Widget dialog)
     Widget const shell = shellOf(dialog);
     Widget const parent = XtParent(shell);
     if (dialog != shell) XtUnmanageChild(dialog);
+    releaseKeyboard(shell);
     XtDestroyWidget(shell);
     setTopWindow(parent && parent != widgets().shell ? parent : mainWindow());
 }
