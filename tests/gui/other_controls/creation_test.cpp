@@ -64,9 +64,9 @@ GUI_TEST(OtherControls, HaveTheirNamesAndClasses)
     });
 }
 
-// The id above, the type code below, on the outer widget; the inner ones have none.
 GUI_TEST(OtherControls, CarryTheirTags)
 {
+    // The id above, the type code below, on the outer widget; the inner ones have none.
     for (const int id : {1, 255, 32767})
         for (const KindOfControl& kind : allKinds()) {
             SCOPED_TRACE(kind.call + " " + std::to_string(id));
@@ -78,6 +78,16 @@ GUI_TEST(OtherControls, CarryTheirTags)
             }
             guiClose(0);
         }
+
+    ASSERT_EQ(guiDialog(""), 0);
+    for (const KindOfControl& kind : allKinds()) {
+        if (!kind.mayBeAnonymous) continue;
+        for (int i = 0; i < 2; ++i) {
+            EXPECT_TRUE(isMade([&] { kind.make(-1); })) << kind.call;
+            EXPECT_EQ(userDataOf(lastControl()), 0xFFFF0000U | static_cast<unsigned>(kind.kind));
+        }
+    }
+    guiClose(0);
 }
 
 GUI_TEST(OtherControls, RefuseIdsWithTheirNames)
@@ -100,22 +110,9 @@ GUI_TEST(OtherControls, RefuseIdsWithTheirNames)
     guiClose(0);
 }
 
-GUI_TEST(OtherControls, AnonymousOnesMayBeMany)
-{
-    ASSERT_EQ(guiDialog(""), 0);
-    for (const KindOfControl& kind : allKinds()) {
-        if (!kind.mayBeAnonymous) continue;
-        for (int i = 0; i < 2; ++i) {
-            EXPECT_TRUE(isMade([&] { kind.make(-1); })) << kind.call;
-            EXPECT_EQ(userDataOf(lastControl()), 0xFFFF0000U | static_cast<unsigned>(kind.kind));
-        }
-    }
-    guiClose(0);
-}
-
-// Of no size: nothing, and nothing is said. Both limits of the smallest ones.
 GUI_TEST(OtherControls, ScalesOfNoSizeAreNotMade)
 {
+    // Of no size: nothing, and nothing is said. Both limits of the smallest ones.
     struct {
         int rows, width;
         bool isAbsolute, isSlider, isProgress;
@@ -139,11 +136,8 @@ GUI_TEST(OtherControls, ScalesOfNoSizeAreNotMade)
         }
     });
     EXPECT_THAT(errors, ::testing::IsEmpty());
-}
 
-// The id of one that was not made is still free.
-GUI_TEST(OtherControls, ScalesThatWereNotMadeTakeNoId)
-{
+    // The id of one that was not made is still free.
     runDialog(
         [] {
             guiSlider(1, 0, 1, 0, 0);

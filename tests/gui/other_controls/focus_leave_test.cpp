@@ -75,10 +75,7 @@ GUI_TEST(TextLeave, IsReportedWhenAKeyGoesOn)
                     ElementsAre(leftBehind(kSecond)));
         EXPECT_THAT(eventsDuring([&] { dialog.key(XK_Tab); }), IsEmpty()) << "a spin box was left";
     });
-}
 
-GUI_TEST(TextLeave, OfASpinBoxIsNotReported)
-{
     runBuilt([](Shown) {
         const auto back = [] {
             eventsOfClick(innerOf(kNumber));

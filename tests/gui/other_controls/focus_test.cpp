@@ -34,10 +34,13 @@ GUI_TEST(OtherControlFocus, IsFirstOnEachKindButProgressBars)
 {
     for (const KindOfControl& kind : allKinds()) {
         SCOPED_TRACE(kind.call);
-        runDialog(
+        runFilled(
             [&] {
                 kind.make(kind.kind);
                 guiCheck(99, 20, 0, 40, "Check");
+            },
+            [&] {
+                if (kind.kind == kTree) fillItems(kTree, 1);
             },
             [&](Shown dialog) {
                 EXPECT_TRUE(wm::waitForFocus(dialog.widget()));
@@ -47,10 +50,7 @@ GUI_TEST(OtherControlFocus, IsFirstOnEachKindButProgressBars)
                     EXPECT_TRUE(waitForKeyboard(kind.kind));
             });
     }
-}
 
-GUI_TEST(OtherControlFocus, PassesOverAnInsensitiveOneAtFirst)
-{
     runDialog(
         [] {
             guiSpin(1, 0, 0, 40);
@@ -60,6 +60,27 @@ GUI_TEST(OtherControlFocus, PassesOverAnInsensitiveOneAtFirst)
         [](Shown) { EXPECT_TRUE(waitForKeyboard(2)); });
 }
 
+// There is nothing in it that the keyboard could work on.
+GUI_TEST(OtherControlFocus, PassesOverAnEmptyTree)
+{
+    runDialog(
+        [] {
+            guiTree(kTree, 0, 3, 0, 60);
+            guiCheck(99, 4, 0, 40, "Check");
+            guiSlider(kSlider, 5, 2, 0, 60);
+        },
+        [](Shown dialog) {
+            EXPECT_TRUE(pumpUntil([] { return hasFocus(99); })) << "at first";
+            dialog.key(XK_Tab);
+            EXPECT_TRUE(waitForKeyboard(kSlider));
+            dialog.key(XK_Tab);
+            EXPECT_TRUE(pumpUntil([] { return hasFocus(99); }));
+            fillItems(kTree, 1);
+            dialog.key(XK_Tab, Shift);
+            EXPECT_TRUE(waitForKeyboard(kTree)) << "not empty any more";
+        });
+}
+
 // In the order in which they were made. In a multi-line text Tab is a character; Control and Tab leave it.
 GUI_TEST(OtherControlFocus, GoesWithTabInTheOrderOfCreation)
 {
@@ -67,13 +88,13 @@ GUI_TEST(OtherControlFocus, GoesWithTabInTheOrderOfCreation)
         ASSERT_TRUE(waitForKeyboard(kSpin));
         std::vector<int> along;
         for (int i = 0; i < 4; ++i) {
-            dialog.key(XK_Tab, keyboardAt() == kText ? Control : NoModifier);
+            dialog.key(XK_Tab, keyboardAt() == kText ? unsigned{Control} : unsigned{NoModifier});
             along.push_back(keyboardAt());
         }
         EXPECT_THAT(along, ElementsAre(kSlider, kTree, kText, kSpin));
         along.clear();
         for (int i = 0; i < 4; ++i) {
-            dialog.key(XK_Tab, Shift);
+            dialog.key(XK_Tab, keyboardAt() == kText ? Control | Shift : unsigned{Shift});
             along.push_back(keyboardAt());
         }
         EXPECT_THAT(along, ElementsAre(kText, kTree, kSlider, kSpin));
@@ -113,7 +134,7 @@ GUI_TEST(OtherControlFocus, IsToldOfNoInnerWidget)
     });
 }
 
-GUI_TEST(OtherControlFocus, IsMovedByTheHost)
+GUI_TEST(OtherControlFocus, IsMovedByTheHostAndByClicks)
 {
     runFilled(
         buildRows,
@@ -128,13 +149,10 @@ GUI_TEST(OtherControlFocus, IsMovedByTheHost)
                 EXPECT_TRUE(waitForKeyboard(id)) << id;
             }
         });
-}
 
-GUI_TEST(OtherControlFocus, IsTakenByAClick)
-{
     runFilled(buildRows, fillRows, [this](Shown) {
         for (const int id : {kText, kSlider, kTree, kSpin}) {
-            robot.click(innerOf(id), LeftButton, Point{6, 6});
+            robot.click(innerOf(id), LeftButton, id == kTree ? middleOfItem(id, 2) : Point{6, 6});
             EXPECT_TRUE(waitForKeyboard(id)) << id;
         }
     });

@@ -64,15 +64,3 @@ GUI_TEST(OtherControlKeys, F1AsksForHelpOnTheControl)
                     UnorderedElementsAre(key(1), toDialog(GUI_EVENT_HELP, kind)));
     });
 }
-
-// An item of a tree is no control: the tree is asked.
-GUI_TEST(OtherControlKeys, AreHeardInAnEmptyTree)
-{
-    runDialog([] { guiTree(kTree, 0, 4, 0, 60); },
-              [](Shown dialog) {
-                  ASSERT_TRUE(waitForKeyboard(kTree));
-                  EXPECT_THAT(eventsDuring([&] { dialog.key(XK_F6); }), ElementsAre(key(6)));
-                  EXPECT_THAT(eventsDuring([&] { dialog.key(XK_F1); }),
-                              UnorderedElementsAre(key(1), toDialog(GUI_EVENT_HELP, kTree)));
-              });
-}

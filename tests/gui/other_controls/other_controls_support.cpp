@@ -2,6 +2,8 @@
 
 #include <Xm/Xm.h>
 
+#include <cstdint>
+
 namespace kite::testing {
 
 const std::vector<KindOfControl>& allKinds()
@@ -43,6 +45,28 @@ Widget verticalBarOf(int id)
 {
     Widget const control = controlOf(id);
     return control ? resource<Widget>(control, XmNverticalScrollBar) : nullptr;
+}
+
+Widget viewOf(int id)
+{
+    Widget const control = controlOf(id);
+    Widget const clip = control ? resource<Widget>(control, XmNclipWindow) : nullptr;
+    return clip ? clip : innerOf(id);
+}
+
+Widget itemOf(int id, int key)
+{
+    for (Widget const item : findWidgets("item", innerOf(id)))
+        if (reinterpret_cast<std::intptr_t>(resource<XtPointer>(item, XmNuserData)) == key)
+            return item;
+    ADD_FAILURE() << "There is no item with key " << key;
+    return nullptr;
+}
+
+Point middleOfItem(int id, int key)
+{
+    Widget const item = itemOf(id, key);
+    return item ? placeOf(item).centre() : Point{};
 }
 
 bool hasKeyboard(int id)

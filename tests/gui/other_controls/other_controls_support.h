@@ -31,6 +31,9 @@ void runFilled(const std::function<void()>& build, const std::function<void()>& 
 // What the user works on: the text, the container, the text field or the bar of the scale.
 Widget innerOf(int id);
 Widget verticalBarOf(int id);
+Widget viewOf(int id);                // the part of a text or tree that is seen
+Widget itemOf(int id, int key);       // of a tree; a failure and null when there is none
+Point middleOfItem(int id, int key);  // within the container
 
 // The keyboard is there, or on an item of it.
 bool hasKeyboard(int id);

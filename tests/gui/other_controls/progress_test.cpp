@@ -77,7 +77,7 @@ GUI_TEST(ProgressBar, ShowsHowMuchIsDone)
     });
 }
 
-GUI_TEST(ProgressBar, IsPassedOverByTab)
+GUI_TEST(ProgressBar, DoesNotTakeTheKeyboard)
 {
     runDialog(
         [] {
@@ -91,11 +91,8 @@ GUI_TEST(ProgressBar, IsPassedOverByTab)
                 EXPECT_EQ(guiGetFocus(), next);
             }
         });
-}
 
-// A click does not take the keyboard from where it is.
-GUI_TEST(ProgressBar, DoesNotTakeTheKeyboard)
-{
+    // A click does not take the keyboard from where it is.
     runDialog(build, [this](Shown dialog) {
         robot.click(innerOf(kBar));
         EXPECT_EQ(guiGetFocus(), kCheck);

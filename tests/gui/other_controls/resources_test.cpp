@@ -53,9 +53,7 @@ void expectBarsOfBoard(Widget scrolled)
     }
 }
 
-}  // namespace
-
-GUI_TEST(OtherControlLook, OfAMultiLineText)
+void expectLookOfAMultiLineText()
 {
     runDialog(
         [] {
@@ -66,10 +64,8 @@ GUI_TEST(OtherControlLook, OfAMultiLineText)
         [](Shown) {
             for (const int id : {1, 2, 3}) {
                 SCOPED_TRACE(id);
-                expectDimensions(controlOf(id), {{XmNshadowThickness, 0},
-                                                 {XmNhighlightThickness, 1},
-                                                 {XmNspacing, 0},
-                                                 {XmNborderWidth, 0}});
+                expectDimensions(controlOf(id),
+                                 {{XmNshadowThickness, 0}, {XmNspacing, 0}, {XmNborderWidth, 0}});
                 Widget const text = innerOf(id);
                 expectDimensions(text, {{XmNshadowThickness, 2},
                                         {XmNhighlightThickness, 0},
@@ -83,18 +79,60 @@ GUI_TEST(OtherControlLook, OfAMultiLineText)
         });
 }
 
-GUI_TEST(OtherControlLook, OfATree)
+void expectLookOfATree()
+{
+    runDialog([] { guiTree(1, 0, 3, 0, 60); },
+              [](Shown) {
+                  expectDimensions(controlOf(1), {{XmNshadowThickness, 2}});
+                  Widget const tree = innerOf(1);
+                  expectDimensions(tree, {{XmNshadowThickness, 0}, {XmNhighlightThickness, 0}});
+                  expectResource<unsigned char>(tree, XmNlayoutType, XmOUTLINE);
+                  expectResource<unsigned char>(tree, XmNselectionPolicy, XmBROWSE_SELECT);
+                  expectBarsOfBoard(controlOf(1));
+              });
+}
+
+void expectLookOfASlider()
+{
+    runDialog([] { guiSlider(1, 0, 2, 0, 60); },
+              [](Shown) {
+                  Widget const scale = controlOf(1);
+                  expectResource<int>(scale, XmNminimum, 0);
+                  expectResource<int>(scale, XmNmaximum, 100);
+                  expectResource<int>(scale, XmNvalue, 0);
+                  expectDimensions(scale, {{XmNscaleWidth, 0}, {XmNscaleHeight, 0}});
+                  expectResource<Pixel>(scale, XmNforeground, BlackPixelOfScreen(XtScreen(scale)));
+                  XmString const title = resource<XmString>(scale, XmNtitleString);
+                  EXPECT_EQ(toString(title), "");
+                  XmStringFree(title);
+              });
+}
+
+void expectLookOfAProgressBar()
 {
     runDialog(
-        [] { guiTree(1, 0, 3, 0, 60); },
+        [] { guiProgress(1, 0, 2, 0, 60); },
         [](Shown) {
-            expectDimensions(controlOf(1), {{XmNshadowThickness, 2}, {XmNhighlightThickness, 1}});
-            Widget const tree = innerOf(1);
-            expectDimensions(tree, {{XmNshadowThickness, 0}, {XmNhighlightThickness, 0}});
-            expectResource<unsigned char>(tree, XmNlayoutType, XmOUTLINE);
-            expectResource<unsigned char>(tree, XmNselectionPolicy, XmBROWSE_SELECT);
-            expectBarsOfBoard(controlOf(1));
+            Widget const scale = controlOf(1);
+            const Rect place = placeOf(scale);
+            expectDimensions(scale, {{XmNscaleWidth, place.width}, {XmNscaleHeight, place.height}});
+            expectResource<int>(scale, XmNminimum, 0);
+            expectResource<int>(scale, XmNmaximum, 100);
+            expectResource<int>(scale, XmNvalue, 0);
+            expectResource<unsigned char>(scale, XmNslidingMode, XmTHERMOMETER);
+            EXPECT_EQ(screen::colourOf(innerOf(1), resource<Pixel>(innerOf(1), XmNtroughColor)),
+                      screen::colourNamed("#000080"));
         });
+}
+
+}  // namespace
+
+GUI_TEST(OtherControlLook, IsThatOfTheirKinds)
+{
+    expectLookOfAMultiLineText();
+    expectLookOfATree();
+    expectLookOfASlider();
+    expectLookOfAProgressBar();
 }
 
 // The field leaves 8 units of the width to the arrows: trunc(112.5) - trunc(15) pixels of 1.875 each.
@@ -108,7 +146,6 @@ GUI_STARTUP_TEST(OtherControlLook, OfASpinBox)
                       expectDimensions(box, {{XmNmarginWidth, 0},
                                              {XmNmarginHeight, 0},
                                              {XmNshadowThickness, 1},
-                                             {XmNhighlightThickness, 1},
                                              {XmNheight, 21}});
                       expectResource<unsigned char>(box, XmNspinBoxChildType, XmNUMERIC);
                       expectResource<int>(box, XmNminimumValue, 0);
@@ -126,39 +163,6 @@ GUI_STARTUP_TEST(OtherControlLook, OfASpinBox)
                       EXPECT_EQ(fieldTextOf(1), "0");
                   });
     });
-}
-
-GUI_TEST(OtherControlLook, OfASlider)
-{
-    runDialog([] { guiSlider(1, 0, 2, 0, 60); },
-              [](Shown) {
-                  Widget const scale = controlOf(1);
-                  expectResource<int>(scale, XmNminimum, 0);
-                  expectResource<int>(scale, XmNmaximum, 100);
-                  expectResource<int>(scale, XmNvalue, 0);
-                  expectDimensions(scale, {{XmNscaleWidth, 0}, {XmNscaleHeight, 0}});
-                  expectResource<Pixel>(scale, XmNforeground, BlackPixelOfScreen(XtScreen(scale)));
-                  XmString const title = resource<XmString>(scale, XmNtitleString);
-                  EXPECT_EQ(toString(title), "");
-                  XmStringFree(title);
-              });
-}
-
-GUI_TEST(OtherControlLook, OfAProgressBar)
-{
-    runDialog(
-        [] { guiProgress(1, 0, 2, 0, 60); },
-        [](Shown) {
-            Widget const scale = controlOf(1);
-            const Rect place = placeOf(scale);
-            expectDimensions(scale, {{XmNscaleWidth, place.width}, {XmNscaleHeight, place.height}});
-            expectResource<int>(scale, XmNminimum, 0);
-            expectResource<int>(scale, XmNmaximum, 100);
-            expectResource<int>(scale, XmNvalue, 0);
-            expectResource<unsigned char>(scale, XmNslidingMode, XmTHERMOMETER);
-            EXPECT_EQ(screen::colourOf(innerOf(1), resource<Pixel>(innerOf(1), XmNtroughColor)),
-                      screen::colourNamed("#000080"));
-        });
 }
 
 // Letters of 10 pixels in the dialog font, of 7 in the fixed-pitch font of the Output area.

@@ -30,16 +30,13 @@ void build()
 
 }  // namespace
 
-GUI_TEST(TextCursor, IsHiddenAtFirst)
+GUI_TEST(TextCursor, FollowsTheKeyboard)
 {
     ASSERT_EQ(guiDialog(""), 0);
     build();
     expectCursorOnlyIn(0);
     guiClose(0);
-}
 
-GUI_TEST(TextCursor, FollowsTheKeyboard)
-{
     runDialog(build, [this](Shown) {
         ASSERT_TRUE(waitForKeyboard(kFirst));
         expectCursorOnlyIn(kFirst);
