@@ -48,12 +48,13 @@ void uncover(Widget scrolled, XtPointer, XtPointer call)
     XmScrollVisible(scrolled, wanted.traversal_destination, 0, 0);
 }
 
-// The toolkit's containers keep the key that cancels a drag to themselves; everywhere else it presses the
-// cancel button of the dialog.
-void passOnCancel(Widget container)
+// The toolkit's containers keep the key that cancels a drag to themselves, where everywhere else it presses
+// the cancel button of the dialog, and do not know the one that asks for help.
+void completeKeys(Widget container)
 {
     static const XtTranslations table =
-        XtParseTranslationTable("<Key>osfCancel: ContainerCancel() ManagerParentCancel()");
+        XtParseTranslationTable("<Key>osfCancel: ContainerCancel() ManagerParentCancel()\n"
+                                "<Key>osfHelp: ManagerGadgetHelp()");
     XtOverrideTranslations(container, table);
 }
 
@@ -96,7 +97,7 @@ int guiTree(int id, int row, int rows, int x, int width)
         return reportMisuse("Tree: cannot create control %d", id);
     }
 
-    passOnCancel(container);
+    completeKeys(container);
     reportCommonEvents(container, tag);
     reportScrolling(scrolled, tag);
     scrollByWheel(scrolled);

@@ -9,8 +9,9 @@ namespace kite {
 // The nearest shell at or above the widget.
 Widget shellOf(Widget widget);
 
-// While the pointer is held on a scroll bar the keyboard is the bar's, and the toolkit sends the shells that it
-// destroys a made-up key: it is not to arrive there.
+// A slider or scroll bar that is being dragged, and a text in which something is being selected, have grabbed
+// the keyboard. Xt would go on sending keys there when the widget is gone, first of all the one that the toolkit
+// makes up for a shell that it destroys.
 void destroyShell(Widget shell);
 
 // Reports the window manager's requests to close the shell, and nothing else happens then: what a

@@ -8,21 +8,11 @@ namespace kite::testing {
 
 namespace {
 
-const std::set<int> kAll{kAllKinds.begin(), kAllKinds.end()};
 const std::set<int> kWithItems{List, ChoiceBox, Combo};
 const std::set<int> kItemReadable{List, ChoiceBox, Combo, Tree};
 const std::set<int> kClearable{Edit, MultiLine, ChoiceBox, Combo, List, Tree};
 const std::set<int> kSelectable{Edit, Spin, ChoiceBox, Combo, List, MultiLine, Tree};
 const std::set<int> kWithSelection{ChoiceBox, Combo, List, Progress, Slider, Tree, Spin};
-
-template <typename Call>
-std::function<double(int)> quietly(Call call)
-{
-    return [call](int id) {
-        call(id);
-        return 0.0;
-    };
-}
 
 double getItem(int id)
 {

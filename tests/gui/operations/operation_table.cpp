@@ -19,7 +19,6 @@ namespace kite::testing {
 
 namespace {
 
-const std::set<int> kAll{kAllKinds.begin(), kAllKinds.end()};
 const std::set<int> kEnabled{Label,     Edit,  PushButton, Check, Radio,  ChoiceBox, List,
                              MultiLine, Combo, Progress,   Tree,  Slider, Spin};
 const std::set<int> kFocusable{Edit,      PushButton, Check, Radio,  ChoiceBox, List,
@@ -32,15 +31,6 @@ const std::set<int> kMeasurable{Label,     Edit, PushButton, Check, Radio,
 const std::set<int> kRanged{Edit, MultiLine, Progress, Slider, Spin};
 const std::set<int> kPositioned{ChoiceBox, List, MultiLine, Progress, Tree, Slider, Spin};
 const std::set<int> kPositionable{Edit, List, MultiLine, Progress, Tree, Slider, Spin};
-
-template <typename Call>
-std::function<double(int)> quietly(Call call)
-{
-    return [call](int id) {
-        call(id);
-        return 0.0;
-    };
-}
 
 double getText(int id)
 {

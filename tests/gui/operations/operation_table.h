@@ -27,6 +27,18 @@ const std::vector<Operation>& allOperations();
 const std::vector<Operation>& controlOperations();  // on what all or many kinds have
 const std::vector<Operation>& itemOperations();     // on items, lines, selections and trees
 
+inline const std::set<int> kAll{kAllKinds.begin(), kAllKinds.end()};
+
+// For the table: a call that returns nothing, as one that returns 0.
+template <typename Call>
+std::function<double(int)> quietly(Call call)
+{
+    return [call](int id) {
+        call(id);
+        return 0.0;
+    };
+}
+
 // Everything of the dialog that an operation could change, written out.
 std::string stateOfDialog();
 
