@@ -10,14 +10,14 @@ using kite::itemNumber;
 
 namespace {
 
-struct Row {
+struct NumberRow {
     double value;
     const char* text;
 };
 
-void expectAll(std::initializer_list<Row> rows)
+void expectAll(std::initializer_list<NumberRow> rows)
 {
-    for (const Row& row : rows) EXPECT_EQ(itemNumber(row.value), row.text) << row.text;
+    for (const NumberRow& row : rows) EXPECT_EQ(itemNumber(row.value), row.text) << row.text;
 }
 
 }  // namespace
