@@ -599,8 +599,8 @@ KITEGUI_API void guiSetDialogTitle(const char *title);
 
 /*
  * Returns the id of the control that has the keyboard in the dialog that runs; -1 without a dialog, and
- * when it cannot be told: for a button of id 0 and for lists and trees. (For a multi-line text in which
- * something was changed the result is of no use.)
+ * when it cannot be told: for a button of id 0, and for lists, trees, sliders and spin boxes. (For a
+ * multi-line text in which something was changed the result is of no use.)
  */
 KITEGUI_API int guiGetFocus(void);
 
@@ -734,8 +734,8 @@ KITEGUI_API int guiChoice(int id, int row, int x, int width);
 
 /*
  * The same with a text to type in: "Edit: cannot create control %d". Raises GUI_EVENT_TEXT_CHANGED whenever
- * the text changes, and GUI_EVENT_VALUE when an item is picked, or the typed text is left (0 then, unless it
- * is an item).
+ * the text changes, and GUI_EVENT_VALUE when an item is picked, and again when a text that was typed is left:
+ * with the position that is selected in the list (0 when none is).
  */
 KITEGUI_API int guiCombo(int id, int row, int x, int width);
 

@@ -11,6 +11,7 @@
 #include "dialogs/dialog_font.h"
 #include "dialogs/spin_layout.h"
 #include "frame/settings.h"
+#include "toolkit/layout.h"
 #include "toolkit/loaded_fonts.h"
 #include "toolkit/rect.h"
 #include "toolkit/resources.h"
@@ -98,6 +99,7 @@ void setFontAndHeight(const Control& control, const TextAttribute& attribute)
     XtResizeWidget(outer, width, asDimension(heightFor(control, height)),
                    resource<Dimension>(outer, XmNborderWidth));
     if (control.type == Spin) layOutSpin(outer, widthShown);
+    if (kDropDowns.has(control.type)) layOutAgain(outer);
 }
 
 }  // namespace kite

@@ -27,18 +27,26 @@ void addBranch(Widget container, Widget item, std::vector<Widget>& branch)
     branch.push_back(item);
 }
 
+// The container keeps its size when its last item goes, and could be scrolled though it is empty.
+void shrinkIfEmpty(Widget container)
+{
+    if (!outline::firstChild(container, nullptr))
+        XtVaSetValues(container, XmNwidth, 1, XmNheight, 1, nullptr);
+}
+
 // All of them are unmanaged at once: for each change the container lays out the whole tree.
-void destroyAll(std::vector<Widget>& items)
+void destroyAll(Widget container, std::vector<Widget>& items)
 {
     XtUnmanageChildren(items.data(), static_cast<Cardinal>(items.size()));
     for (Widget const item : items) XtDestroyWidget(item);
+    shrinkIfEmpty(container);
 }
 
 // Now, and not when Xt comes to it: until then they would be nowhere.
 void moveChildrenUp(Widget item)
 {
     for (Widget const child : itemsBelow(XtParent(item), item))
-        XtVaSetValues(child, XmNentryParent, nullptr, nullptr);
+        XtVaSetValues(child, XmNentryParent, nullptr, XmNpositionIndex, XmLAST_POSITION, nullptr);
 }
 
 }  // namespace
@@ -62,21 +70,21 @@ void DestroyBranch(Widget container, Widget item)
 {
     std::vector<Widget> branch;
     addBranch(container, item, branch);
-    destroyAll(branch);
+    destroyAll(container, branch);
 }
 
 void destroyAlone(Widget item)
 {
     moveChildrenUp(item);
     std::vector<Widget> alone{item};
-    destroyAll(alone);
+    destroyAll(XtParent(item), alone);
 }
 
 void destroyTopLevel(Widget container)
 {
     std::vector<Widget> items = itemsBelow(container, nullptr);
     for (Widget const item : items) moveChildrenUp(item);
-    destroyAll(items);
+    destroyAll(container, items);
 }
 
 void selectTreeItem(Widget container, int index)

@@ -47,9 +47,17 @@ void changed(Widget field, XtPointer tag, XtPointer)
     raise(GUI_EVENT_TEXT_CHANGED, Tag{tag}.id(), number);
 }
 
+// The toolkit forgets the time-out in which it repeats an arrow that is held.
+void destroyed(Widget spin, XtPointer, XtPointer)
+{
+    auto& repeating = reinterpret_cast<XmSpinBoxWidget>(spin)->spinBox.spin_timer;
+    if (repeating) XtRemoveTimeOut(repeating);
+    repeating = 0;
+}
+
 void prepareField(Widget field, const Rect& place)
 {
-    const int width = place.width - building::units().pixelsAcross(kArrows);
+    const auto width = static_cast<int>(place.width - kArrows * building::units().horizontal());
     XtVaSetValues(field, XmNx, asPosition(place.x), XmNwidth, asDimension(std::max(1, width)),
                   XmNheight, asDimension(place.height), XmNmarginWidth, 3, XmNmarginHeight, 1,
                   XmNshadowThickness, 1, XmNhighlightThickness, 1, XmNforeground, blackPixel(field),
@@ -80,5 +88,6 @@ int guiSpin(int id, int row, int x, int width)
     for (Widget const part : {box, field}) reportCommonEvents(part, tag);
     noteTyping(field, tag);
     XtAddCallback(field, XmNvalueChangedCallback, changed, tag.userData());
+    XtAddCallback(box, XmNdestroyCallback, destroyed, nullptr);
     return building::append(id, ControlType::Spin, box);
 }

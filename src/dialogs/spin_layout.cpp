@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "dialogs/text_field.h"
+#include "toolkit/layout.h"
 
 namespace kite {
 
@@ -17,8 +18,7 @@ void layOutSpin(Widget spin, Dimension fieldWidth)
     XtResizeWidget(field, fieldWidth, spin->core.height, field->core.border_width);
     auto& layout = reinterpret_cast<XmSpinBoxWidget>(spin)->spinBox;
     layout.ideal_height = std::min(layout.ideal_height, spin->core.height);
-    XtClass(spin)->core_class.resize(spin);
-    if (XtIsRealized(spin)) XClearArea(XtDisplay(spin), XtWindow(spin), 0, 0, 0, 0, True);
+    layOutAgain(spin);
 }
 
 }  // namespace kite

@@ -14,7 +14,9 @@
 #include "frame/focus_leave.h"
 #include "frame/frame_pictures.h"
 #include "frame/hover.h"
+#include "toolkit/layout.h"
 #include "toolkit/outline.h"
+#include "toolkit/resources.h"
 
 namespace kite {
 
@@ -56,6 +58,14 @@ void completeKeys(Widget container)
         XtParseTranslationTable("<Key>osfCancel: ContainerCancel() ManagerParentCancel()\n"
                                 "<Key>osfHelp: ManagerGadgetHelp()");
     XtOverrideTranslations(container, table);
+}
+
+// An empty tree would be drawn over the shadow around it: the toolkit lays out what has a size.
+void shown(Widget scrolled, XtPointer, XEvent* event, Boolean*)
+{
+    if (event->type != MapNotify) return;
+    layOutAgain(scrolled);
+    XtRemoveEventHandler(scrolled, XtAllEvents, True, shown, nullptr);
 }
 
 void showPicture(Widget container, const char* state, const images::Picture& picture)
@@ -102,6 +112,8 @@ int guiTree(int id, int row, int rows, int x, int width)
     reportScrolling(scrolled, tag);
     scrollByWheel(scrolled);
     spreadBackground(scrolled);
+    XtAddEventHandler(scrolled, StructureNotifyMask, False, shown, nullptr);
+    if (auto* const around = resource<Widget>(scrolled, XmNclipWindow)) reportHover(around, tag);
     XtAddCallback(scrolled, XmNtraverseObscuredCallback, uncover, nullptr);
     XtAddCallback(container, XmNselectionCallback, selected, tag.userData());
     XtAddCallback(container, XmNdefaultActionCallback, activated, tag.userData());

@@ -23,16 +23,21 @@ public:
     ProcessingEvents& operator=(const ProcessingEvents&) = delete;
 };
 
-// Processes events of all kinds, one at a time, as long as `pending()` says so. The widget only names
-// the application; it may be destroyed meanwhile.
+// Waits for an event of any kind and processes it. What is destroyed meanwhile goes when the event is over: in
+// a time-out Xt would destroy it at once, and arrows and scroll bars that are held tell the host from time-outs
+// of the toolkit's, which go on afterwards.
+void processEvent(Display* display);
+
+// Processes events, one at a time, as long as `pending()` says so. The widget only names the display; it may
+// be destroyed meanwhile.
 template <typename Pending>
 void processEventsWhile(Widget widget, Pending pending)
 {
     const ProcessingEvents scope;
-    XtAppContext application = XtWidgetToApplicationContext(widget);
+    Display* const display = XtDisplay(widget);
     while (pending()) {
         paintHeldText();
-        XtAppProcessEvent(application, XtIMAll);
+        processEvent(display);
     }
 }
 

@@ -70,6 +70,16 @@ GUI_STARTUP_TEST(OtherControlHover, IsReportedForTheArrowsOfASpinBox)
     });
 }
 
+// Below its last item a tree goes on.
+GUI_STARTUP_TEST(OtherControlHover, IsReportedBelowTheItemsOfATree)
+{
+    runWithDelay("0", [this](Shown) {
+        const Rect tree = rectOf(viewOf(kTree));
+        robot.moveTo(Point{tree.centre().x, tree.bottom() - 3});
+        EXPECT_TRUE(app.waitForEvent(hover(kTree)));
+    });
+}
+
 GUI_STARTUP_TEST(OtherControlHover, EndsWhenTheControlIsOperated)
 {
     runWithDelay("0.4", [this](Shown dialog) {

@@ -67,6 +67,12 @@ std::vector<Event> selections(const std::function<void()>& action)
     return only(GUI_EVENT_SELECT, eventsDuring(action));
 }
 
+// The toolkit puts a bar that is not needed outside.
+bool showsBar()
+{
+    return rectOf(verticalBarOf(kBox)).x < rectOf(controlOf(kBox)).right();
+}
+
 }  // namespace
 
 GUI_TEST(TreeControl, ReportsTheKeyOfTheSelectedItemLessOne)
@@ -155,4 +161,26 @@ GUI_TEST(TreeControl, MayCloseTheDialogOrLoseTheItemInItsHandler)
         Robot::instance().click();
     });
     EXPECT_EQ(guiRunDialog(recorder.dialogHandler()), 25);
+}
+
+// The window in which it is scrolled is drawn with all of its shadow, and has nothing to scroll.
+GUI_TEST(TreeControl, WithoutItemsIsAnEmptyFrame)
+{
+    const auto expectEmptyFrame = [](const char* when) {
+        SCOPED_TRACE(when);
+        Widget const scrolled = controlOf(kBox);
+        Widget const around = resource<Widget>(scrolled, XmNclipWindow);
+        EXPECT_TRUE(pumpUntil([&] { return resource<Position>(around, XmNx) == 2; }));
+        EXPECT_EQ(resource<Position>(around, XmNy), 2);
+        EXPECT_TRUE(pumpUntil([] { return !showsBar(); }));
+    };
+    runFilled([] { guiTree(kBox, 0, 4, 0, 80); }, [] {},
+              [&](Shown) {
+                  expectEmptyFrame("at first");
+                  fillItems(kBox, 40);
+                  EXPECT_TRUE(pumpUntil(showsBar));
+                  guiRemoveAll(kBox);
+                  expectEmptyFrame("emptied");
+                  EXPECT_EQ(guiGetTop(kBox), 0);
+              });
 }

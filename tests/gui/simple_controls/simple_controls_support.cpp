@@ -1,5 +1,6 @@
 #include "simple_controls_support.h"
 
+#include <X11/IntrinsicP.h>
 #include <Xm/ToggleB.h>
 
 #include <cstdint>
@@ -44,7 +45,10 @@ Widget newestBoard()
 std::vector<Widget> controlsOfBoard()
 {
     Widget const board = newestBoard();
-    return board ? childrenOf(board) : std::vector<Widget>{};
+    if (!board) return {};
+    std::vector<Widget> controls = childrenOf(board);
+    std::erase_if(controls, [](Widget control) { return control->core.being_destroyed != 0; });
+    return controls;
 }
 
 Widget lastControl()

@@ -1,5 +1,8 @@
 // Controls of one line become higher with their fonts.
 
+#include <X11/IntrinsicP.h>
+#include <Xm/SpinBP.h>
+
 #include "text_attributes_support.h"
 
 using namespace kite::testing;
@@ -95,15 +98,43 @@ GUI_TEST(TextAttHeights, StayWithFontsThatAreNotHigher)
 // Beside its field a spin box has arrows, which stay where they are.
 GUI_TEST(TextAttHeights, OfASpinBoxLeaveRoomForItsArrows)
 {
-    runDialog({.build = [] { guiSpin(Spin, 0, 0, 40); },
+    runDialog(
+        {.build = [] { guiSpin(Spin, 0, 0, 40); },
+         .look =
+             [](Shown) {
+                 const int width = rectOf(partsOf(Spin).front()).width;
+                 ASSERT_LT(width, rectOf(outerOf(Spin)).width - 8);
+                 for (const char* font : {kSmallest, kHuge, "VEXFIXED", kCourier}) {
+                     guiSetTextAtt(Spin, 0, font);
+                     settle();
+                     EXPECT_EQ(rectOf(partsOf(Spin).front()).width, width) << font;
+                     const auto& lower =
+                         reinterpret_cast<XmSpinBoxWidget>(outerOf(Spin))->spinBox.down_arrow_rect;
+                     EXPECT_LT(lower.y + lower.height / 2, rectOf(outerOf(Spin)).height) << font;
+                 }
+             }});
+}
+
+// Its field and its arrow stay in the box, which does not grow.
+GUI_TEST(TextAttHeights, OfADropDownLeaveItsPartsInPlace)
+{
+    runDialog({.build =
+                   [] {
+                       guiChoice(ChoiceBox, 0, 0, 60);
+                       guiCombo(Combo, 1, 0, 60);
+                   },
                .look =
                    [](Shown) {
-                       const int width = rectOf(partsOf(Spin).front()).width;
-                       ASSERT_LT(width, rectOf(outerOf(Spin)).width - 8);
-                       for (const char* font : {kSmallest, kHuge, "VEXFIXED", kCourier}) {
-                           guiSetTextAtt(Spin, 0, font);
-                           settle();
-                           EXPECT_EQ(rectOf(partsOf(Spin).front()).width, width) << font;
+                       for (const int kind : {int{ChoiceBox}, int{Combo}}) {
+                           const Rect box = rectOf(outerOf(kind));
+                           const Rect field = rectOf(partsOf(kind).front());
+                           for (const char* font : {kHuge, kSmallest, kCourier, "VEXVARIABLE"}) {
+                               SCOPED_TRACE(font);
+                               guiSetTextAtt(kind, 0, font);
+                               settle();
+                               EXPECT_EQ(rectOf(outerOf(kind)), box);
+                               EXPECT_EQ(rectOf(partsOf(kind).front()), field);
+                           }
                        }
                    }});
 }
