@@ -735,7 +735,7 @@ KITEGUI_API int guiChoice(int id, int row, int x, int width);
 /*
  * The same with a text to type in: "Edit: cannot create control %d". Raises GUI_EVENT_TEXT_CHANGED whenever
  * the text changes, and GUI_EVENT_VALUE when an item is picked, and again when a text that was typed is left:
- * with the position that is selected in the list (0 when none is).
+ * with the position that is selected in the list (0 when none is), and behind GUI_EVENT_LEFT.
  */
 KITEGUI_API int guiCombo(int id, int row, int x, int width);
 
@@ -1056,10 +1056,12 @@ KITEGUI_API int guiGetNthSel(int id, int n);
  *                     one it gets the keyboard cursor and is scrolled into view.
  *   choice, combo box the item; below 0: none, and the text is empty
  *   tree              the item of key index + 1
- *   edit, spin box    the text between the insertion point and the character of that index
- *   multi-line text   the text between the beginning of line `index` and the position that is the length of
- *                     that line: the line itself for line 0. (For an empty line: the length of all that
- *                     follows.) "GetLine: out of memory" when the text cannot be had.
+ *   edit, spin box    the text between the insertion point and the character of that index, where the
+ *                     insertion point goes
+ *   multi-line text   the text from the beginning of line `index` to the position that is the length of
+ *                     that line: the line itself for line 0, and nothing when that position comes first. (For
+ *                     an empty line it is the length of all that follows.) "GetLine: out of memory" when the
+ *                     text cannot be had.
  */
 KITEGUI_API void guiSetSel(int id, int index);
 

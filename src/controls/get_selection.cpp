@@ -4,13 +4,15 @@
 #include <kitegui.h>
 
 #include <algorithm>
-#include <cstring>
 #include <memory>
 #include <new>
+#include <string>
 
 #include "boxes/misuse.h"
 #include "controls/control_lookup.h"
+#include "controls/control_text.h"
 #include "controls/drop_down_selection.h"
+#include "controls/items.h"
 #include "controls/list_selection.h"
 #include "toolkit/outline.h"
 #include "toolkit/resources.h"
@@ -23,17 +25,21 @@ using enum ControlType;
 
 constexpr TypeSet kWithSelection{Choice, Combo, List, Progress, Slider, Tree, Spin};
 
-constexpr int kCompared = 10;  // bytes of a text, with the terminating null, that tell items apart
+constexpr std::size_t kCompared = 9;  // bytes of a text that tell items apart
+
+std::string beginningOf(std::string text)
+{
+    std::erase(text, '\n');  // which a field does not show
+    return text.substr(0, kCompared);
+}
 
 // In a combo box another text may have been typed. -1 then.
-int selectionOfDropDown(int id, Widget box)
+int selectionOfDropDown(const Control& box)
 {
-    const int position = selectedPosition(box);
-    char shown[kCompared] = "";
-    char item[kCompared] = "";
-    guiGetText(id, shown, sizeof shown);
-    guiGetItem(id, position, item, sizeof item);
-    return std::strcmp(shown, item) == 0 ? position : GUI_FAILED;
+    const int position = selectedPosition(box.widget);
+    const std::string shown = textOf(box).value_or("");
+    const std::string item = itemText(listOf(box), position).value_or("");
+    return beginningOf(shown) == beginningOf(item) ? position : GUI_FAILED;
 }
 
 int selectionOfTree(Widget container)
@@ -49,7 +55,7 @@ int selectionOf(const Control& control, int id)
     case Tree: return selectionOfTree(control.widget);
     case Spin: return static_cast<int>(static_cast<unsigned>(guiGetTextInt(id)) - 1U);
     case Choice:
-    case Combo: return selectionOfDropDown(id, control.widget);
+    case Combo: return selectionOfDropDown(control);
     default: return resource<int>(control.widget, XmNvalue);
     }
 }

@@ -40,11 +40,13 @@ void selectText(Widget text, XmTextPosition first, XmTextPosition last)
     XmTextSetSelection(text, first, last, now(text));
 }
 
-// From the insertion point.
+// From the insertion point, which goes there. The toolkit selects nothing backwards.
 void selectTo(Widget field, int offset)
 {
-    const auto end = std::clamp<XmTextPosition>(offset, 0, XmTextGetLastPosition(field));
-    selectText(field, XmTextGetInsertionPosition(field), end);
+    const XmTextPosition from = XmTextGetInsertionPosition(field);
+    const auto to = std::clamp<XmTextPosition>(offset, 0, XmTextGetLastPosition(field));
+    selectText(field, std::min(from, to), std::max(from, to));
+    XmTextSetInsertionPosition(field, to);
 }
 
 void selectInDropDown(Widget box, int position)

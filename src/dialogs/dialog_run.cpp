@@ -64,11 +64,13 @@ void runUntilClosed(Run& run)
 {
     Widget const board = run.board.get();
     const TopWindowScope top{board};
-    raise(GUI_EVENT_INIT);
+    // What the handler destroys goes now. It would keep the whole dialog back otherwise, until the event is over in
+    // which the dialog was opened.
+    asEvent(XtDisplay(board), [] { raise(GUI_EVENT_INIT); });
     // The handler may have closed it, or given the screen to another window.
     if (!run.board || topWindow() != board) return;
     show(run);
-    processEventsWhile(board, [&] { return bool{run.board} && bool{run.shell}; });
+    processEventsOfControlsWhile(board, [&] { return bool{run.board} && bool{run.shell}; });
 }
 
 }  // namespace

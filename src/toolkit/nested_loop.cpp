@@ -1,5 +1,7 @@
 #include "toolkit/nested_loop.h"
 
+#include <utility>
+
 namespace kite {
 
 namespace {
@@ -8,25 +10,28 @@ int running = 0;  // loops, one inside the other
 int begun = 0;
 
 // Of an event that no server sends: neither X nor its extensions use the number.
-constexpr int kTurn = 63;
+constexpr int kWork = 63;
 
-Boolean takeTurn(XEvent* event)
+const std::function<void()>* toDo = nullptr;  // handed over by asEvent
+
+Boolean doWork(XEvent*)
 {
-    XtAppProcessEvent(XtDisplayToApplicationContext(event->xany.display), XtIMAll);
+    (*std::exchange(toDo, nullptr))();
     return True;
 }
 
 }  // namespace
 
-// Around a turn of the loop Xt dispatches an event that is made up: it destroys at the end of an event.
-void processEvent(Display* display)
+// Xt destroys at the end of an event.
+void asEvent(Display* display, const std::function<void()>& work)
 {
-    XtSetEventDispatcher(display, kTurn, takeTurn);
-    XEvent turn{};
-    turn.type = kTurn;
-    turn.xany.display = display;
-    turn.xany.serial = LastKnownRequestProcessed(display);
-    XtDispatchEvent(&turn);
+    XtSetEventDispatcher(display, kWork, doWork);
+    XEvent event{};
+    event.type = kWork;
+    event.xany.display = display;
+    event.xany.serial = LastKnownRequestProcessed(display);
+    toDo = &work;
+    XtDispatchEvent(&event);
 }
 
 bool isProcessingEvents()

@@ -4,6 +4,8 @@
 
 #include <X11/Intrinsic.h>
 
+#include <functional>
+
 #include "toolkit/held_redisplay.h"
 
 namespace kite {
@@ -23,21 +25,34 @@ public:
     ProcessingEvents& operator=(const ProcessingEvents&) = delete;
 };
 
-// Waits for an event of any kind and processes it. What is destroyed meanwhile goes when the event is over: in
-// a time-out Xt would destroy it at once, and arrows and scroll bars that are held tell the host from time-outs
-// of the toolkit's, which go on afterwards.
-void processEvent(Display* display);
+// Does the work as if an event had come for it: what is destroyed meanwhile goes when the work is done, and not
+// before.
+void asEvent(Display* display, const std::function<void()>& work);
 
-// Processes events, one at a time, as long as `pending()` says so. The widget only names the display; it may
-// be destroyed meanwhile.
+// Processes events of all kinds, one at a time, as long as `pending()` says so. The widget only names
+// the application; it may be destroyed meanwhile.
 template <typename Pending>
 void processEventsWhile(Widget widget, Pending pending)
 {
     const ProcessingEvents scope;
-    Display* const display = XtDisplay(widget);
+    XtAppContext const application = XtWidgetToApplicationContext(widget);
     while (pending()) {
         paintHeldText();
-        processEvent(display);
+        XtAppProcessEvent(application, XtIMAll);
+    }
+}
+
+// The same where there are arrows and scroll bars: while they are held they tell the host from time-outs of the
+// toolkit's, which go on afterwards. In a time-out Xt would destroy things at once.
+template <typename Pending>
+void processEventsOfControlsWhile(Widget board, Pending pending)
+{
+    const ProcessingEvents scope;
+    Display* const display = XtDisplay(board);
+    XtAppContext const application = XtWidgetToApplicationContext(board);
+    while (pending()) {
+        paintHeldText();
+        asEvent(display, [application] { XtAppProcessEvent(application, XtIMAll); });
     }
 }
 

@@ -89,18 +89,25 @@ GUI_TEST(ImagePixmaps, ATextOnAButtonKeepsAtMostOne)
                }});
 }
 
+// The dialog is on the screen in the middle of an event: what is destroyed goes at its end.
 GUI_TEST(ImagePixmaps, DestroyedControlsFreeTheirs)
 {
     const std::string good = patternFile("good.bmp", 12, 12);
-    runDialog({.build = buildPictured, .look = [&](Shown) {
-                   const unsigned without = pixmaps();
-                   for (const int id : kControls) {
-                       guiSetImage(id, good.c_str());
-                       guiSetImage(id, good.c_str());
-                       XtDestroyWidget(outerOf(id));
-                   }
-                   EXPECT_TRUE(pumpUntil([&] { return pixmaps() <= without; }));
-               }});
+    unsigned without = 0;
+    ASSERT_EQ(guiDialog("Dialog"), 0);
+    buildPictured();
+    const auto destroy = [&](Shown) {
+        without = pixmaps();
+        for (const int id : kControls) {
+            guiSetImage(id, good.c_str());
+            guiSetImage(id, good.c_str());
+            XtDestroyWidget(outerOf(id));
+        }
+    };
+    const auto freed = [&] { return pixmaps() <= without; };
+    script.inOrder(
+        {script.shown("v_dlgbbr", destroy), {"the pixmaps are freed", freed, [] { guiClose(1); }}});
+    EXPECT_EQ(guiRunDialog(recorder.dialogHandler()), 1);
 }
 
 GUI_TEST(ImagePixmaps, ClosedDialogsFreeTheirs)
