@@ -180,21 +180,6 @@ bool waitUntilClosed(int id)
     return pumpUntil([&] { return !isOpen(id); });
 }
 
-std::vector<Event> eventsDuring(const std::function<void()>& action)
-{
-    settle();
-    Recorder::instance().clear();
-    action();
-    settle();
-    return Recorder::instance().events();
-}
-
-std::vector<Event> only(int event, std::vector<Event> events)
-{
-    std::erase_if(events, [&](const Event& e) { return e.event != event; });
-    return events;
-}
-
 Event selected(int id, int index, int isDouble)
 {
     return toDialog(GUI_EVENT_SELECT, id, index, isDouble);

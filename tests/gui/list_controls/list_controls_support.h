@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "gui_test.h"
+#include "recorded_events.h"
 
 namespace kite::testing {
 
@@ -54,10 +55,6 @@ void clickArrow(int id);
 bool isOpen(int id);
 bool waitUntilOpen(int id);
 bool waitUntilClosed(int id);
-
-// What the handlers were called with meanwhile.
-std::vector<Event> eventsDuring(const std::function<void()>& action);
-std::vector<Event> only(int event, std::vector<Event> events);
 
 Event selected(int id, int index, int isDouble = 0);
 Event picked(int id, int position);

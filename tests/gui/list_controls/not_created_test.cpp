@@ -1,22 +1,11 @@
 // The toolkit makes no widget: the host hears of it, and the dialog is as it was.
 
-#include <cstdarg>
-
 #include "list_controls_support.h"
+#include "simple_controls/refused_widgets.h"
 
 using namespace kite::testing;
 
 namespace {
-
-std::string refusedName;  // of the widgets that are not made; none when empty
-
-class Refusal {
-public:
-    explicit Refusal(const std::string& name) { refusedName = name; }
-    ~Refusal() { refusedName.clear(); }
-    Refusal(const Refusal&) = delete;
-    Refusal& operator=(const Refusal&) = delete;
-};
 
 struct Kind {
     std::string words;
@@ -39,28 +28,12 @@ const std::vector<Kind>& allKinds()
 
 }  // namespace
 
-// The program's own comes before the toolkit's. Names and values only, as the library passes them.
-extern "C" Widget XtVaCreateManagedWidget(const char* name, WidgetClass kind, Widget parent, ...)
-{
-    if (name && refusedName == name) return nullptr;
-    std::vector<Arg> arguments;
-    va_list list;
-    va_start(list, parent);
-    while (char* const resourceName = va_arg(list, char*)) {
-        const XtArgVal value = va_arg(list, XtArgVal);
-        arguments.push_back({resourceName, value});
-    }
-    va_end(list);
-    return XtCreateManagedWidget(name, kind, parent, arguments.data(),
-                                 static_cast<Cardinal>(arguments.size()));
-}
-
 GUI_TEST(ListControlNotCreated, IsReportedWithItsId)
 {
     ASSERT_EQ(guiDialog(""), 0);
     for (const Kind& kind : allKinds()) {
         SCOPED_TRACE(kind.widget);
-        const Refusal refusal{kind.widget};
+        const RefusedWidgets refused{kind.widget};
         EXPECT_MISUSE(kind.make(12), kind.words + ": cannot create control 12");
     }
     EXPECT_EQ(childrenOf(newestBoard()).size(), 0U) << "a scrolled window without its list";
@@ -73,7 +46,7 @@ GUI_TEST(ListControlNotCreated, LeavesNothingBehind)
     runDialog({.build =
                    [] {
                        for (const Kind& kind : allKinds()) {
-                           const Refusal refusal{kind.widget};
+                           const RefusedWidgets refused{kind.widget};
                            errorsDuring([&] { kind.make(1); });
                        }
                        guiLabel(1, 0, 0, 10, "1");

@@ -102,12 +102,6 @@ int valueOf(int scale)
     return resource<int>(controlOf(scale), XmNvalue);
 }
 
-std::vector<Event> only(int event, std::vector<Event> events)
-{
-    std::erase_if(events, [&](const Event& e) { return e.event != event; });
-    return events;
-}
-
 Event cursorAt(int id, int line, int column)
 {
     return toDialog(GUI_EVENT_CURSOR, id, line, column);

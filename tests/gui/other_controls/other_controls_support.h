@@ -46,9 +46,6 @@ void fillItems(int id,
 std::string fieldTextOf(int spin);
 int valueOf(int scale);
 
-// The only events of one code.
-std::vector<Event> only(int event, std::vector<Event> events);
-
 Event cursorAt(int id, int line, int column);
 Event selected(int id, int index, int isDouble = 0);
 Event value(int id, int number);

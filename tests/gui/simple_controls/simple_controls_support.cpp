@@ -82,19 +82,4 @@ bool isToggled(int id)
     return control && XmToggleButtonGetState(control);
 }
 
-std::vector<Event> eventsDuring(const std::function<void()>& action)
-{
-    settle();
-    Recorder::instance().clear();
-    action();
-    settle();
-    return Recorder::instance().events();
-}
-
-std::vector<Event> without(int event, std::vector<Event> events)
-{
-    std::erase_if(events, [&](const Event& e) { return e.event == event; });
-    return events;
-}
-
 }  // namespace kite::testing

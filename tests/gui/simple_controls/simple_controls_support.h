@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "gui_test.h"
+#include "recorded_events.h"
 
 namespace kite::testing {
 
@@ -28,11 +29,5 @@ Widget controlOf(int id);     // by its tag; a failure and null when there is no
 Rect placeOf(Widget widget);  // on its dialog, without the border
 bool hasFocus(int id);        // the keyboard goes there
 bool isToggled(int id);       // the check box or radio button is set
-
-// What the handlers were called with meanwhile.
-std::vector<Event> eventsDuring(const std::function<void()>& action);
-
-// Without the events of one code.
-std::vector<Event> without(int event, std::vector<Event> events);
 
 }  // namespace kite::testing
