@@ -6,9 +6,9 @@
 #include <algorithm>
 #include <iterator>
 
+#include "dialogs/drop_down.h"
 #include "dialogs/text_field.h"
 #include "toolkit/children.h"
-#include "toolkit/resources.h"
 
 namespace kite {
 
@@ -29,8 +29,7 @@ std::vector<Widget> partsOf(const Control& control)
 {
     if (control.type == ControlType::Tree) return itemsOf(control.widget);
     if (control.type == ControlType::Spin) return {fieldOf(control.widget)};
-    if (kDropDowns.has(control.type))
-        return {fieldOf(control.widget), resource<Widget>(control.widget, XmNlist)};
+    if (kDropDowns.has(control.type)) return {fieldOf(control.widget), listOf(control.widget)};
     return {};
 }
 

@@ -13,11 +13,6 @@ namespace kite {
 
 namespace {
 
-Widget listOf(Widget box)
-{
-    return resource<Widget>(box, XmNlist);
-}
-
 bool hasSelection(Widget box)
 {
     return resource<int>(listOf(box), XmNselectedPositionCount) > 0;

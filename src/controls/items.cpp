@@ -1,11 +1,11 @@
 #include "controls/items.h"
 
-#include <Xm/ComboBox.h>
 #include <Xm/List.h>
 
 #include <climits>
 #include <cstring>
 
+#include "dialogs/drop_down.h"
 #include "toolkit/plain_text.h"
 #include "toolkit/resources.h"
 
@@ -19,8 +19,7 @@ constexpr std::size_t kLongestItem = 1023;  // bytes
 
 Widget listOf(const Control& control)
 {
-    if (control.type == ControlType::List) return control.widget;
-    return resource<Widget>(control.widget, XmNlist);
+    return control.type == ControlType::List ? control.widget : listOf(control.widget);
 }
 
 int itemCount(Widget list)

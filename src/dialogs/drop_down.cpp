@@ -27,11 +27,6 @@ constexpr int kWide = 5000;  // pixels
 // Of a list whose items have no height, because all of them are empty, the toolkit computes the size for ever.
 constexpr int kHighlight = 2;  // pixels
 
-Widget listOf(Widget box)
-{
-    return resource<Widget>(box, XmNlist);
-}
-
 // The setting is a height; a list of no items cannot be shown.
 int mostItemsShown()
 {
@@ -84,6 +79,11 @@ Widget createDropDown(const DropDownKind& kind, Tag tag, int row, int x, int wid
     for (Widget const part : {box, fieldOf(box)}) reportCommonEvents(part, tag);
     XtAddCallback(box, XmNselectionCallback, selected, tag.userData());
     return box;
+}
+
+Widget listOf(Widget box)
+{
+    return resource<Widget>(box, XmNlist);
 }
 
 void fitDropDownList(Widget box)

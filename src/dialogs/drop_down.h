@@ -19,6 +19,9 @@ struct DropDownKind {
 // Null when the toolkit could not make it.
 Widget createDropDown(const DropDownKind& kind, Tag tag, int row, int x, int width);
 
+// The list that drops down.
+Widget listOf(Widget box);
+
 // As many items as are there, up to what the user's setting has room for.
 void fitDropDownList(Widget box);
 
