@@ -5,6 +5,7 @@
 
 #include <vector>
 
+#include "controls/tree_marks.h"
 #include "toolkit/outline.h"
 
 namespace kite {
@@ -39,6 +40,7 @@ void destroyAll(Widget container, std::vector<Widget>& items)
 {
     XtUnmanageChildren(items.data(), static_cast<Cardinal>(items.size()));
     for (Widget const item : items) XtDestroyWidget(item);
+    renewMarksLater(container);
     shrinkIfEmpty(container);
 }
 

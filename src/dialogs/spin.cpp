@@ -1,7 +1,6 @@
 // spin.cpp: a number to type, or to step through with arrows.
 
-#include <Xm/SSpinB.h>
-#include <Xm/SpinBP.h>
+#include <Xm/SSpinBP.h>
 #include <Xm/TextF.h>
 #include <kitegui.h>
 
@@ -31,12 +30,15 @@ int numberIn(Widget field)
     return text ? std::atoi(text.get()) : 0;
 }
 
-// The arrows go on from what was typed. (The position is written where it is kept: to set it would rewrite
-// the number while it is being typed.)
+// The arrows go on from what was typed, and other changes of the box leave it: the box has a position of its own,
+// which it gives to its field with each of them. (Both are written where they are kept: to set them would
+// rewrite the number while it is being typed.)
 void keepPosition(Widget field, int number)
 {
     auto& kept = reinterpret_cast<XmSpinBoxConstraintPtr>(field->core.constraints)->spinBox;
     kept.position = std::clamp(number, kept.minimum_value, kept.maximum_value);
+    reinterpret_cast<XmSimpleSpinBoxWidget>(XtParent(field))->simpleSpinBox.position =
+        kept.position;
 }
 
 void changed(Widget field, XtPointer tag, XtPointer)

@@ -1,5 +1,8 @@
 #include "toolkit/plain_text.h"
 
+#include <memory>
+#include <type_traits>
+
 #include "toolkit/resources.h"
 #include "toolkit/xt_string.h"
 
@@ -10,6 +13,8 @@ std::string plainText(XmString string)
     std::string text;
     XmStringContext context = nullptr;
     if (!string || !XmStringInitContext(&context, string)) return text;
+    const std::unique_ptr<std::remove_pointer_t<XmStringContext>, decltype(&XmStringFreeContext)>
+        owner{context, XmStringFreeContext};  // there may be no memory for the text
     unsigned int length = 0;
     XtPointer value = nullptr;
     XmStringComponentType type = XmSTRING_COMPONENT_END;
@@ -20,7 +25,6 @@ std::string plainText(XmString string)
         else if (type == XmSTRING_COMPONENT_SEPARATOR)
             text += '\n';
     }
-    XmStringFreeContext(context);
     return text;
 }
 

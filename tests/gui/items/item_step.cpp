@@ -139,6 +139,7 @@ std::string stateOfTree(Widget tree)
     std::string all = outlineBelow(tree, nullptr) + "selected ";
     for (unsigned i = 0; i < resource<unsigned>(tree, XmNselectedObjectCount); ++i)
         if (isAlive(selected[i])) all += keyAndLabel(selected[i]);
+    XtFree(reinterpret_cast<char*>(selected));
     return all;
 }
 

@@ -169,7 +169,7 @@ GUI_TEST(OtherControlPlace, SmallWidthsCanBeShown)
             [](Shown dialog) {
                 EXPECT_TRUE(isShown(controlOf(1)));
                 dialog.key(XK_space);
-                EXPECT_TRUE(isToggled(1));
+                EXPECT_TRUE(pumpUntil([] { return isToggled(1); }));
             });
     }
 }

@@ -96,3 +96,22 @@ GUI_TEST(SpinTyping, ReportsNothingOfTheHostsChanges)
                   EXPECT_EQ(fieldTextOf(kNumber), "3");
               });
 }
+
+// The box has a number of its own, which is that of the field.
+GUI_TEST(SpinTyping, IsKeptByWhatChangesTheBox)
+{
+    runFilled([] { guiSpin(kNumber, 0, 0, 60); }, [] { guiSetTextInt(kNumber, 50); },
+              [](Shown dialog) {
+                  ASSERT_TRUE(waitForKeyboard(kNumber));
+                  for (int step = 0; step < 2; ++step) dialog.key(XK_Up);
+                  ASSERT_EQ(fieldTextOf(kNumber), "52");
+                  EXPECT_THAT(eventsDuring([] {
+                                  guiSetTextAtt(kNumber, 0, "#ff0000");
+                                  guiSetTextAtt(kNumber, 0, "VEXFIXED");
+                                  guiEnable(kNumber, 0);
+                                  guiEnable(kNumber, 1);
+                              }),
+                              ::testing::IsEmpty());
+                  EXPECT_EQ(fieldTextOf(kNumber), "52");
+              });
+}

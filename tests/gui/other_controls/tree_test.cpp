@@ -1,6 +1,9 @@
 // Trees: items selected and clicked twice, branches expanded and collapsed by mouse.
 
 #include <Xm/Container.h>
+#include <Xm/PushBG.h>
+
+#include <algorithm>
 
 #include "other_controls_support.h"
 
@@ -183,4 +186,38 @@ GUI_TEST(TreeControl, WithoutItemsIsAnEmptyFrame)
                   expectEmptyFrame("emptied");
                   EXPECT_EQ(guiGetTop(kBox), 0);
               });
+}
+
+namespace {
+
+int marks()
+{
+    const auto children = childrenOf(innerOf(kBox));
+    return static_cast<int>(std::count_if(children.begin(), children.end(), [](Widget child) {
+        return XmIsPushButtonGadget(child) && XtIsManaged(child);
+    }));
+}
+
+void plantTwo()
+{
+    for (const int parent : {1, 2}) {
+        guiAddTree(kBox, 0, parent, "Parent");
+        guiAddTree(kBox, parent, parent + 10, "Child");
+    }
+}
+
+}  // namespace
+
+// An item that has lost those below it has no mark, and neither have those that moved up.
+GUI_TEST(TreeControl, HasMarksWhereThereIsSomethingBelow)
+{
+    ASSERT_EQ(guiDialog(""), 0);
+    guiTree(kBox, 0, 8, 0, 80);
+    recorder.onEvent(GUI_EVENT_INIT, plantTwo);
+    const auto haveMarks = [](int count) { return [count] { return marks() == count; }; };
+    script.inOrder({script.shown("v_dlgbbr", [](Shown) {}),
+                    {"two marks", haveMarks(2), [] { guiDelTree(kBox, 11); }},
+                    {"one mark", haveMarks(1), [] { guiRemoveAll(kBox); }},
+                    {"no mark", haveMarks(0), [] { guiClose(1); }}});
+    EXPECT_EQ(guiRunDialog(recorder.dialogHandler()), 1);
 }
