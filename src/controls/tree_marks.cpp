@@ -2,6 +2,7 @@
 
 #include <Xm/Container.h>
 
+#include <algorithm>
 #include <list>
 
 #include "toolkit/never_destroyed.h"
@@ -31,9 +32,8 @@ void renewAll(XtPointer, XtIntervalId*)
 
 bool isWaiting(Widget container)
 {
-    for (const WidgetRef& tree : waiting)
-        if (tree.get() == container) return true;
-    return false;
+    return std::ranges::any_of(waiting,
+                               [&](const WidgetRef& tree) { return tree.get() == container; });
 }
 
 }  // namespace

@@ -30,8 +30,8 @@ constexpr int kHighlight = 2;  // pixels
 // The setting is a height; a list of no items cannot be shown.
 int mostItemsShown()
 {
-    const double rows = frame::dropDownHeight() / 8 / building::units().vertical();
-    return std::max(1, static_cast<int>(rows));
+    const int height = frame::dropDownHeight() / 8;
+    return std::max(1, static_cast<int>(height / building::units().vertical()));
 }
 
 void selected(Widget box, XtPointer tag, XtPointer)

@@ -7,8 +7,7 @@ namespace kite {
 void layOutAgain(Widget widget)
 {
     XtClass(widget)->core_class.resize(widget);
-    if (XtIsRealized(widget))
-        XClearArea(XtDisplay(widget), XtWindow(widget), 0, 0, 0, 0, True);
+    if (XtIsRealized(widget)) XClearArea(XtDisplay(widget), XtWindow(widget), 0, 0, 0, 0, True);
 }
 
 }  // namespace kite
