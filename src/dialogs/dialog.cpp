@@ -59,7 +59,7 @@ XmFontList fontOf(Widget board)
 // -1 after an error box; the shell goes with what was made in it.
 int destroy(Widget shell, const char* message)
 {
-    XtDestroyWidget(shell);
+    destroyShell(shell);
     return reportMisuse("%s", message);
 }
 
@@ -85,7 +85,7 @@ bool abandon()
     if (!board) return false;
     deferred::withdrawDialog();
     building::forget();
-    XtDestroyWidget(shellOf(board));
+    destroyShell(shellOf(board));
     return true;
 }
 

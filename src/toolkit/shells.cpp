@@ -1,9 +1,33 @@
 #include "toolkit/shells.h"
 
+#include <X11/IntrinsicP.h>
 #include <Xm/Protocols.h>
 #include <Xm/Xm.h>
 
 namespace kite {
+
+namespace {
+
+// Xt keeps the path of widgets along which the latest key came, and takes the same path again when the next key
+// comes to a widget at the same address. The toolkit sends every shell with a close request a made-up key when it
+// goes: a new window whose widget happens to lie where that shell was would lose its first key. Another key, to a
+// widget that stays, leaves nothing of the old path.
+void forgetPathOfKeys(Widget shell, XtPointer, XtPointer)
+{
+    Widget root = shell;
+    while (XtParent(root)) root = XtParent(root);
+    if (root->core.being_destroyed || !XtIsRealized(root)) return;
+    XEvent event{};
+    event.xkey.type = KeyRelease;
+    event.xkey.display = XtDisplay(root);
+    event.xkey.serial = LastKnownRequestProcessed(XtDisplay(root));
+    event.xkey.send_event = True;
+    event.xkey.window = XtWindow(root);
+    event.xkey.time = XtLastTimestampProcessed(XtDisplay(root));
+    XtDispatchEvent(&event);
+}
+
+}  // namespace
 
 Widget shellOf(Widget widget)
 {
@@ -14,6 +38,8 @@ Widget shellOf(Widget widget)
 void destroyShell(Widget shell)
 {
     XtUngrabKeyboard(shell, CurrentTime);
+    XtAddCallback(shell, XmNdestroyCallback, forgetPathOfKeys,
+                  nullptr);  // behind the toolkit's own
     XtDestroyWidget(shell);
 }
 

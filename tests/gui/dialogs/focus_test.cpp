@@ -203,3 +203,19 @@ GUI_TEST(GetFocus, IsThatOfTheControlThatHasTheKeyboard)
         EXPECT_EQ(guiGetFocus(), 2);
     });
 }
+
+// Dialogs of different sizes, so that the widgets of one lie where others of an earlier one were.
+GUI_TEST(DialogFocus, TheFirstKeyOfEveryDialogArrives)
+{
+    constexpr int kDialogs = 30;
+    for (int i = 0; i < kDialogs; ++i) {
+        SCOPED_TRACE(i);
+        guiDialog("Keys");
+        for (int id = 1; id <= 1 + i % 5; ++id) guiCheck(id, id, 0, 40 + 20 * i, "check");
+        recorder.clear();
+        runWhileShown([&](Shown dialog) {
+            dialog.key(XK_space);
+            EXPECT_TRUE(pumpUntil([&] { return recorder.count(GUI_EVENT_CHECK) == 1; }));
+        });
+    }
+}
