@@ -1,10 +1,14 @@
 #include "dialogs/lost_release.h"
 
 #include <Xm/PushB.h>
+#include <Xm/ScrollBar.h>
+#include <Xm/SpinBP.h>
 #include <Xm/ToggleBP.h>
 
 #include <memory>
 
+#include "toolkit/nested_loop.h"
+#include "toolkit/never_destroyed.h"
 #include "toolkit/widget_ref.h"
 
 namespace kite {
@@ -23,8 +27,8 @@ bool isMouseHeld(Widget widget)
     return (state & kAnyButton) != 0;
 }
 
-// What the toolkit does when the pointer is moved off the control, and released there.
-void letGo(Widget control)
+// What the toolkit does when the pointer is moved off the button, and released there.
+void letGoOfButton(Widget control)
 {
     XEvent event{};
     event.xcrossing.type = LeaveNotify;
@@ -37,6 +41,30 @@ void letGo(Widget control)
         reinterpret_cast<XmToggleButtonWidget>(control)->toggle.Armed = False;
 }
 
+bool isSpinBox(Widget widget)
+{
+    return XtIsSubclass(widget, xmSpinBoxWidgetClass);
+}
+
+// What the toolkit does when the mouse button is released, but no last step: the release is none of the user's.
+void letGoOfPart(Widget part)
+{
+    XEvent event{};
+    event.xbutton.type = ButtonRelease;
+    event.xbutton.display = XtDisplay(part);
+    event.xbutton.window = XtWindow(part);
+    if (isSpinBox(part)) reinterpret_cast<XmSpinBoxWidget>(part)->spinBox.make_change = False;
+    XtCallActionProc(part, isSpinBox(part) ? "SpinBDisarm" : "Release", &event, nullptr, 0);
+}
+
+void letGo(Widget widget)
+{
+    if (isSpinBox(widget) || XmIsScrollBar(widget))
+        letGoOfPart(widget);
+    else
+        letGoOfButton(widget);
+}
+
 void clickDone(XtPointer data, XtIntervalId*)
 {
     const std::unique_ptr<WidgetRef> control{static_cast<WidgetRef*>(data)};
@@ -44,13 +72,54 @@ void clickDone(XtPointer data, XtIntervalId*)
     if (widget && XtIsRealized(widget) && !isMouseHeld(widget)) letGo(widget);
 }
 
+void onceItIsDone(Widget widget)
+{
+    auto later = std::make_unique<WidgetRef>(widget);
+    XtAppAddTimeOut(XtWidgetToApplicationContext(widget), 0, clickDone, later.release());
+}
+
+// The part that the mouse button was pressed on and not yet released.
+WidgetRef& held = neverDestroyed<WidgetRef>();
+
+void pressed(Widget part, XtPointer, XEvent*, Boolean*)
+{
+    held.reset(part);
+}
+
+void released(Widget, XtPointer, XEvent*, Boolean*)
+{
+    held.reset();
+}
+
+// The arrows of a spin box stop. A scroll bar cannot be stopped in its own time-out, but gives the keyboard back,
+// for the box.
+void loopBegins()
+{
+    Widget const part = held.get();
+    if (!part) return;
+    if (isSpinBox(part))
+        letGo(part);
+    else
+        XtUngrabKeyboard(part, CurrentTime);
+}
+
+void loopEnded()
+{
+    if (held) onceItIsDone(held.get());
+}
+
 }  // namespace
 
 void letGoLater(Widget control)
 {
-    if (!XmIsPushButton(control) && !XmIsToggleButton(control)) return;
-    auto later = std::make_unique<WidgetRef>(control);
-    XtAppAddTimeOut(XtWidgetToApplicationContext(control), 0, clickDone, later.release());
+    if (XmIsPushButton(control) || XmIsToggleButton(control)) onceItIsDone(control);
+}
+
+void letGoOfWhatIsHeld(Widget part)
+{
+    observeLoops({loopBegins, loopEnded});
+    XtAddEventHandler(part, ButtonPressMask, False, pressed, nullptr);
+    XtAddEventHandler(part, ButtonReleaseMask, False, released, nullptr);
 }
 
 }  // namespace kite

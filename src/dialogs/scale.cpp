@@ -3,6 +3,7 @@
 #include <Xm/Xm.h>
 
 #include "dialogs/common_events.h"
+#include "dialogs/lost_release.h"
 
 namespace kite {
 
@@ -26,6 +27,7 @@ void reportScaleEvents(Widget scale, Tag tag)
     reportKeys(bar, tag);
     reportHelp(bar, tag);
     reportHover(bar, tag);
+    letGoOfWhatIsHeld(bar);
 }
 
 }  // namespace kite

@@ -6,6 +6,7 @@
 
 #include "dialogs/control.h"
 #include "dialogs/first_visible.h"
+#include "dialogs/lost_release.h"
 #include "dialogs/placement.h"
 #include "frame/dispatcher.h"
 #include "frame/hover.h"
@@ -52,7 +53,10 @@ void reportScrolling(Widget scrolled, Tag tag)
     auto* const across = resource<Widget>(scrolled, XmNhorizontalScrollBar);
     auto* const down = resource<Widget>(scrolled, XmNverticalScrollBar);
     for (Widget const bar : {across, down})
-        if (bar) adjustLook(bar);
+        if (bar) {
+            adjustLook(bar);
+            letGoOfWhatIsHeld(bar);
+        }
     if (!down) return;
     for (const char* const movement : kMovements)
         XtAddCallback(down, const_cast<char*>(movement), moved, tag.userData());

@@ -11,6 +11,7 @@
 #include "dialogs/common_events.h"
 #include "dialogs/control.h"
 #include "dialogs/layout_metrics.h"
+#include "dialogs/lost_release.h"
 #include "dialogs/placement.h"
 #include "dialogs/text_field.h"
 #include "frame/dispatcher.h"
@@ -49,12 +50,14 @@ void changed(Widget field, XtPointer tag, XtPointer)
     raise(GUI_EVENT_TEXT_CHANGED, Tag{tag}.id(), number);
 }
 
-// The toolkit forgets the time-out in which it repeats an arrow that is held.
+// The toolkit forgets the time-out in which it repeats an arrow that is held. (Of an arrow that is not held it
+// remembers one that is no more, and may be somebody else's by now.)
 void destroyed(Widget spin, XtPointer, XtPointer)
 {
-    auto& repeating = reinterpret_cast<XmSpinBoxWidget>(spin)->spinBox.spin_timer;
-    if (repeating) XtRemoveTimeOut(repeating);
-    repeating = 0;
+    auto& box = reinterpret_cast<XmSpinBoxWidget>(spin)->spinBox;
+    const bool isHeld = box.up_arrow_pressed || box.down_arrow_pressed;
+    if (isHeld && box.spin_timer) XtRemoveTimeOut(box.spin_timer);
+    box.up_arrow_pressed = box.down_arrow_pressed = False;
 }
 
 void prepareField(Widget field, const Rect& place)
@@ -91,5 +94,6 @@ int guiSpin(int id, int row, int x, int width)
     noteTyping(field, tag);
     XtAddCallback(field, XmNvalueChangedCallback, changed, tag.userData());
     XtAddCallback(box, XmNdestroyCallback, destroyed, nullptr);
+    letGoOfWhatIsHeld(box);
     return building::append(id, ControlType::Spin, box);
 }

@@ -8,6 +8,7 @@ namespace {
 
 int running = 0;  // loops, one inside the other
 int begun = 0;
+LoopObserver observer{[] {}, [] {}};
 
 // Of an event that no server sends: neither X nor its extensions use the number.
 constexpr int kWork = 63;
@@ -44,15 +45,22 @@ int loopsBegun()
     return begun;
 }
 
+void observeLoops(const LoopObserver& newObserver)
+{
+    observer = newObserver;
+}
+
 ProcessingEvents::ProcessingEvents()
 {
     ++begun;
     ++running;
+    observer.begins();
 }
 
 ProcessingEvents::~ProcessingEvents()
 {
     --running;
+    observer.ended();
 }
 
 }  // namespace kite

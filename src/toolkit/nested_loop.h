@@ -16,6 +16,13 @@ bool isProcessingEvents();
 // How many of them have begun so far: a call during which the number grows has let the user do things.
 int loopsBegun();
 
+// Called when a loop begins, and when it has ended.
+struct LoopObserver {
+    void (*begins)();
+    void (*ended)();
+};
+void observeLoops(const LoopObserver& observer);
+
 class ProcessingEvents {
 public:
     ProcessingEvents();

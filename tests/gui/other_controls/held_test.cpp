@@ -99,3 +99,47 @@ GUI_TEST(Held, ControlsMayGoWithTheDialogMeanwhile)
         expectSurvived();
     }
 }
+
+// The mouse is released while the box is open: it is the box's, and the control would never hear of it.
+GUI_TEST(Held, ControlsStopWhenABoxHasTakenTheRelease)
+{
+    for (const Held& held : allHeld()) {
+        SCOPED_TRACE(held.kind);
+        int boxes = 0;
+        recorder.onEvent(held.event, [&] {
+            if (boxes++ == 0) guiErrorBox("Enough");
+        });
+        app.whenShown("v_errorbox", [&](Shown box) {
+            robot.release();
+            box.key(XK_Return);
+        });
+        runHeld(held, [&] {
+            EXPECT_TRUE(pumpUntil([&] { return boxes > 0 && !findWidget("v_errorbox"); }));
+            settle();
+            recorder.clear();
+            EXPECT_TRUE(
+                holdsFor([&] { return recorder.count(held.event) == 0; }, milliseconds{700}));
+            guiClose(1);
+        });
+        EXPECT_EQ(boxes, 1);
+    }
+}
+
+// The toolkit keeps the number of the last time-out of an arrow, and numbers are used again.
+GUI_TEST(Held, ASpinBoxTakesNoTimeOutOfOthersWithIt)
+{
+    int served = 0;
+    constexpr int kTimeOuts = 4;
+    runDialog(makeAllKinds, [&](Shown dialog) {
+        const Held& spin = allHeld().front();
+        robot.moveTo(spin.place());
+        robot.press();
+        robot.release();
+        EXPECT_TRUE(pumpUntil([&] { return recorder.count(spin.event) > 0; }));
+        for (int i = 0; i < kTimeOuts; ++i)
+            XtAppAddTimeOut(
+                XtWidgetToApplicationContext(dialog.widget()), 300,
+                [](XtPointer count, XtIntervalId*) { ++*static_cast<int*>(count); }, &served);
+    });
+    EXPECT_TRUE(pumpUntil([&] { return served == kTimeOuts; }));
+}
