@@ -99,12 +99,18 @@ enum {
                                     slider (its value) changed */
     GUI_EVENT_SELECT = 25,       /* id, index from 0, 1 for a double click or 0 for a selection: list, tree */
     GUI_EVENT_CURSOR = 26,       /* id, line from 0 (-1 when empty), column from 0: a multi-line text changed */
-    GUI_EVENT_KEY = 27,          /* -1, key code (below), 1 with Control held: a special key in a control */
+    GUI_EVENT_KEY = 27,          /* -1, key code (below), 1 with Control held: a special key in a control.
+                                    id, x, y: an image was clicked, x and y pixels inside its frame */
     GUI_EVENT_LEFT = 41,         /* id, 1, 0: a control lost the keyboard focus; delivered late: when a dialog
                                     is closed with the focus in an edit, to the window behind it */
     GUI_EVENT_TIMER = 51,        /* 0, 0, 0: the periodic timer of guiTimer */
     GUI_EVENT_HELP = 61,         /* id, 0, 0: help was requested on a control */
-    GUI_EVENT_CONTEXT = 62,      /* id, x, y: mouse button 3 was released on a control */
+    GUI_EVENT_CONTEXT = 62,      /* id, x, y: mouse button 3 was released on a push button, check box, radio
+                                    button, choice, tree, slider or spin box, x and y pixels from its corner
+                                    (of a tree: from that of its items, however far they are scrolled), or on
+                                    an image, inside its frame.
+                                    id, position from 1, 0: on a list, on the item at that position; 0 on none.
+                                    Not raised by an anonymous slider or spin box */
     GUI_EVENT_HOVER = 63,        /* id, 0, 0: the pointer rested on a control for the hover delay */
     GUI_EVENT_SCROLLED = 64      /* id, first visible line from 0, 0: a list, text or tree was scrolled */
 };
@@ -410,6 +416,57 @@ KITEGUI_API int guiEnableCommand(int id, int enable);
 KITEGUI_API int guiGetCommandCheck(int id);
 
 /* ---------------------------------------------------------------------------------------------
+ * Popup menus
+ *
+ * A handler builds a menu, shows it and waits, often when GUI_EVENT_CONTEXT has come:
+ *
+ *     guiCreatePopMenu();
+ *     guiAppendPopMenu("&Open");
+ *     guiSepPopMenu();
+ *     guiAppendPopMenu("&Remove");
+ *     switch (guiShowPopMenu(0, 0, 0, 0)) {
+ *     case 1: ...
+ *
+ * Its items are no commands: they have numbers, from 1 in the order in which they were made, and raise no event.
+ * A menu is shown once. Appending to one that does not exist, or does not exist any more, does nothing.
+ * ------------------------------------------------------------------------------------------ */
+
+/*
+ * Begins a popup menu, which belongs to the top window. One that was begun before and not shown is forgotten.
+ * Returns 1; 0 without a top window.
+ */
+KITEGUI_API int guiCreatePopMenu(void);
+
+/*
+ * Appends an item.
+ *
+ *   name  1 to 63 bytes; the letter or digit behind the first "&" is the item's mnemonic, and every "&" is
+ *         removed
+ *
+ * The result is of no use. "MenuItem: invalid name", as for the menu bar, for a wrong name; the item takes no
+ * number then.
+ */
+KITEGUI_API int guiAppendPopMenu(const char *name);
+
+/* Appends a separator, which takes no number. The result is of no use. */
+KITEGUI_API int guiSepPopMenu(void);
+
+/*
+ * Shows the menu and waits until the user has picked an item or dismissed the menu. Other events are delivered
+ * meanwhile. Afterwards the menu does not exist any more.
+ *
+ *   x, y    from 1, in dialog units from the top window's corner; y counts rows of 14 units. The dialog's margin
+ *           of 7 units comes on top. Where one of them is less than 1: at the pointer.
+ *   mode    1: y counts single units
+ *   listId  above 0: the menu opens at the right edge of this control of the dialog instead, level with its top
+ *
+ * Returns the number of the item, or 0: dismissed, no menu or no top window. A listId that there is not is reported
+ * as by the operations on controls ("PopList: ..."), and the menu opens at the pointer. Before the first dialog,
+ * units are those that a dialog would have.
+ */
+KITEGUI_API int guiShowPopMenu(int x, int y, int mode, int listId);
+
+/* ---------------------------------------------------------------------------------------------
  * Output area
  *
  * The host's running output: one text of plain bytes, in which a line ends with "\n" or with the text.
@@ -523,6 +580,57 @@ KITEGUI_API int guiSelOutputLine(int line, int startCol, int count);
  * "SaveOutput: out of memory", "SaveOutput: cannot open the file" or "SaveOutput: error writing the file".
  */
 KITEGUI_API int guiSaveOutput(const char *path);
+
+/* ---------------------------------------------------------------------------------------------
+ * Clipboard
+ *
+ * Lines of text, and the selections of texts, on the X clipboard (CLIPBOARD), where other programs find them as
+ * "STRING". Bytes are copied as they are. While another program holds the clipboard for itself, the calls wait.
+ * Waiting for another program's text lets events pass; handlers that use the clipboard meanwhile find it empty
+ * and change nothing.
+ *
+ * A line and its line end, or a selection, of more than 4095 bytes is not copied: the clipboard stays as it is.
+ *
+ * Mouse button 3 shows a menu over the Output area, and over edits, multi-line texts and combo boxes: Cut, Copy,
+ * Paste, Clear (the selection, else everything) and Select All. Of a text that is there to be read only, it
+ * changes nothing.
+ * ------------------------------------------------------------------------------------------ */
+
+/* Puts the text and a line end on the clipboard, in the place of what is there. Null does nothing. */
+KITEGUI_API void guiCopyText(const char *text);
+
+/*
+ * The same behind what is there, all of which becomes the library's. (What another program has put there as
+ * compound text only is taken over byte for byte.) The length of the whole is not limited.
+ */
+KITEGUI_API void guiCopyAppText(const char *text);
+
+/* Returns the number of lines on the clipboard; a last line end begins none. 0 when there is no text. */
+KITEGUI_API int guiClipLines(void);
+
+/*
+ * Copies a line of the clipboard, without its line end, into the buffer: at most size - 1 bytes.
+ *
+ *   line  from 1
+ *
+ * Returns the length; 0 when there is no text on the clipboard; -1 for a line that there is not, the buffer
+ * empty; -1 after "GetClipLine: invalid buffer" for a null buffer or a size below 2.
+ */
+KITEGUI_API int guiPasteText(char *buffer, int size, int line);
+
+/*
+ * These work on a text widget of the host's own, or one of the library's (XmText, XmTextField); for others they do
+ * nothing. The first two do nothing when nothing is selected, and guiCutSel removes nothing that it could not
+ * copy.
+ */
+KITEGUI_API void guiCopySel(GuiWidget text);
+KITEGUI_API void guiCutSel(GuiWidget text);
+
+/*
+ * Removes the selection, inserts the "STRING" on the clipboard there, or at the insertion point, and leaves the
+ * insertion point before it. An empty clipboard inserts nothing.
+ */
+KITEGUI_API void guiPasteSel(GuiWidget text);
 
 /* ---------------------------------------------------------------------------------------------
  * Dialogs
@@ -1204,6 +1312,103 @@ KITEGUI_API int guiYesNoCancelBox(const char *message);
  * -1 after "GetTextBox: invalid buffer" for a null buffer or a size below 2.
  */
 KITEGUI_API int guiGetTextBox(const char *prompt, char *buffer, int size, int hidden);
+
+/* ---------------------------------------------------------------------------------------------
+ * Editor box
+ *
+ * The user edits a text of several lines, which the host gives and takes line by line:
+ *
+ *     guiEditorReset();
+ *     guiEditorPutLine("Dear ...,");
+ *     if (guiEditorBox("Letter") >= 0)
+ *         while (guiEditorGetLine(line, sizeof line) >= 0) ...
+ * ------------------------------------------------------------------------------------------ */
+
+/* Empties the text. Returns 0. */
+KITEGUI_API int guiEditorReset(void);
+
+/*
+ * Appends a line, with a line end, to the text. Returns its length in bytes; -1 for null; -1 after "EditorPutLine:
+ * out of memory", the text unchanged.
+ */
+KITEGUI_API int guiEditorPutLine(const char *line);
+
+/*
+ * Lets the user edit the text, in a box of 550 x 400 pixels. Cancel and the close button ask "Exit the editor?".
+ *
+ *   title  null or empty: "Editor"
+ *
+ * Returns the number of lines of the text when the user is done, 0 when it is empty; a last line without a line end
+ * counts as well. -1 when the user gave up, after "EditBox: cannot retrieve text" or "EditBox: out of memory", and
+ * when the box could not be shown; but for the last of these the text is empty then.
+ */
+KITEGUI_API int guiEditorBox(const char *title);
+
+/*
+ * Copies the next line, without its line end and carriage returns, into the buffer. Of a line that is longer than
+ * size - 1 bytes, the next call returns the rest.
+ *
+ * Returns the length. With the last line the text is emptied: the next call returns -1. -1 after "EditorGetLine:
+ * invalid buffer" for a null buffer or a size below 2.
+ */
+KITEGUI_API int guiEditorGetLine(char *buffer, int size);
+
+/* ---------------------------------------------------------------------------------------------
+ * File boxes
+ * ------------------------------------------------------------------------------------------ */
+
+/*
+ * Lets the user choose a file to open, or a directory.
+ *
+ *   title      null or empty: "Open"
+ *   filter     descriptions and patterns, "Texts|*.txt|All|*|", of which the first pattern is used: the files that
+ *              match it are listed. Null or empty: "All files|*.*|". Without a "|": all files.
+ *   defExt     appended, behind a ".", to a name without one. Null or empty: none.
+ *   mustExist  0: any name is taken. Above 0: only that of a file that exists; for others a box says "Cannot
+ *              access the file" or "It's a directory, not a file", and the user can choose again. Below 0: the box
+ *              lists directories only, and what the user makes of the choice is returned as it is, without defExt.
+ *   buffer     the file to begin with, or empty; receives the path, at most size - 1 bytes
+ *
+ * A path is at most 1023 bytes long. When the profile key "cddir" is 1, the directory of the chosen file becomes the
+ * working directory.
+ *
+ * Returns the length of the path; -1, the buffer empty, when the user gave up (also by choosing nothing, or a path
+ * that ends in "/") and when the path does not fit; -1 after "OpenFileBox: invalid buffer" for a null buffer or a
+ * size below 2.
+ */
+KITEGUI_API int guiOpenFileBox(const char *title, const char *filter, const char *defExt,
+                               int mustExist, char *buffer, int size);
+
+/*
+ * Lets the user choose a file to write to: as guiOpenFileBox, with these differences. The default title is "Save
+ * As". With confirmOverwrite other than 0, the user is asked "File exists. Overwrite?", and directories are refused.
+ * The misuse message is "SaveFileBox: invalid buffer".
+ */
+KITEGUI_API int guiSaveFileBox(const char *title, const char *filter, const char *defExt,
+                               int confirmOverwrite, char *buffer, int size);
+
+/* ---------------------------------------------------------------------------------------------
+ * Printing
+ * ------------------------------------------------------------------------------------------ */
+
+/* The library has no page settings. Returns -1. */
+KITEGUI_API int guiGetDefPrnPage(void);
+
+/*
+ * Prints a file by a command, which kxExec runs: "lp -c", with " -olandscape" when the profile key "landscape" is 1
+ * and " -oeolwrap" when lines are wrapped, or what the profile key "lpcmd" holds instead. The first "%file" in it
+ * stands for the file; without one the file comes last. A box asks the user for patience; no events are delivered
+ * until the command has ended, and for a second at least.
+ *
+ *   file      as it stands in the command line, for the shell: a name with blanks needs quotes
+ *   a2 to a7  not used
+ *   wrap      1 or 2: long lines are wrapped
+ *
+ * Returns 0 when the command was run, whatever came of it; -1 for a null or empty file, an empty command or a
+ * command line of more than 2047 bytes; -1 after "Could not execute print command".
+ */
+KITEGUI_API int guiPrintFile(const char *file, int a2, int a3, int a4, int a5, int a6, int a7,
+                             int wrap);
 
 /* ---------------------------------------------------------------------------------------------
  * Host services: functions that the host program defines and the library calls

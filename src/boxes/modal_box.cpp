@@ -1,5 +1,6 @@
 #include "boxes/modal_box.h"
 
+#include <Xm/FileSB.h>
 #include <Xm/MessageB.h>
 #include <Xm/SelectioB.h>
 
@@ -7,7 +8,6 @@
 
 #include "frame/app_info.h"
 #include "frame/frame_fonts.h"
-#include "frame/top_window.h"
 #include "toolkit/nested_loop.h"
 #include "toolkit/painted_labels.h"
 #include "toolkit/resources.h"
@@ -29,14 +29,17 @@ Widget create(const ModalBox::Look& look, const char* text)
     XtSetArg(arguments[2], XmNdialogTitle, title.get());
     XtSetArg(arguments[3], look.textResource, message.get());
     XtSetArg(arguments[4], XmNautoUnmanage, False);  // it goes when it is answered, not before
-    Widget const box = look.create(parent, const_cast<char*>(look.widgetName), arguments, 5);
-    if (box) freePaintedLabelsWith(XtParent(box));
-    return box;
+    return look.create(parent, const_cast<char*>(look.widgetName), arguments, 5);
 }
 
 }  // namespace
 
-ModalBox::ModalBox(const Look& look, const char* text) : box_(create(look, text)) {}
+ModalBox::ModalBox(const Look& look, const char* text) : ModalBox(create(look, text)) {}
+
+ModalBox::ModalBox(Widget box) : box_(box)
+{
+    if (box) freePaintedLabelsWith(XtParent(box));
+}
 
 ModalBox::~ModalBox()
 {
@@ -48,8 +51,10 @@ ModalBox::~ModalBox()
 
 Widget ModalBox::child(unsigned char which) const
 {
-    return XmIsMessageBox(box_.get()) ? XmMessageBoxGetChild(box_.get(), which)
-                                      : XmSelectionBoxGetChild(box_.get(), which);
+    Widget const box = box_.get();
+    if (XmIsMessageBox(box)) return XmMessageBoxGetChild(box, which);
+    if (XmIsFileSelectionBox(box)) return XmFileSelectionBoxGetChild(box, which);
+    return XmSelectionBoxGetChild(box, which);
 }
 
 void ModalBox::removeParts(std::initializer_list<unsigned char> parts)
@@ -63,14 +68,19 @@ void ModalBox::useDialogFont(std::initializer_list<Widget> parts)
     for (Widget const part : parts) frameFonts::apply(part, frameFonts::Use::Dialog);
 }
 
+void ModalBox::prepareButton(Widget button)
+{
+    XtVaSetValues(button, XmNrecomputeSize, False, XmNshadowThickness, 2, XmNhighlightThickness, 1,
+                  XmNdefaultButtonShadowThickness, 0, XmNshowAsDefault, 0, nullptr);
+}
+
 void ModalBox::finishButtons(ButtonWidth width, const std::vector<Widget>& buttons)
 {
     const bool isTriple = width == ButtonWidth::TripleOk;
     const auto natural = resource<Dimension>(
         child(isTriple ? XmDIALOG_OK_BUTTON : XmDIALOG_CANCEL_BUTTON), XmNwidth);
     for (Widget const button : buttons) {
-        XtVaSetValues(button, XmNrecomputeSize, False, XmNshadowThickness, 2, XmNhighlightThickness,
-                      1, XmNdefaultButtonShadowThickness, 0, XmNshowAsDefault, 0, nullptr);
+        prepareButton(button);
         // On its own: in one call the toolkit takes what the borders have lost off the new width.
         XtVaSetValues(button, XmNwidth, isTriple ? natural * 3 : natural, nullptr);
     }
@@ -91,7 +101,12 @@ void ModalBox::answered(Widget, XtPointer answer, XtPointer)
 
 void ModalBox::answerOnPress(Widget button, int answer)
 {
-    XtAddCallback(button, XmNactivateCallback, answered, newAnswer(answer));
+    answerOn(button, XmNactivateCallback, answer);
+}
+
+void ModalBox::answerOn(Widget widget, const char* callback, int answer)
+{
+    XtAddCallback(widget, const_cast<char*>(callback), answered, newAnswer(answer));
 }
 
 void ModalBox::answerOnClose(int answer)
@@ -103,8 +118,12 @@ void ModalBox::answerOnClose(int answer)
 int ModalBox::run()
 {
     Widget const box = box_.get();
-    const TopWindowScope shown{box};
-    XtManageChild(box);
+    if (!box) return whenClosed_;
+    if (!shown_) {
+        shown_.emplace(box);
+        XtManageChild(box);
+    }
+    result_ = kPending;
     processEventsWhile(box, [this] { return result_ == kPending && box_; });
     return result_ == kPending ? whenClosed_ : result_;
 }

@@ -5,8 +5,10 @@
 #include <Xm/Xm.h>
 
 #include <initializer_list>
+#include <optional>
 #include <vector>
 
+#include "frame/top_window.h"
 #include "toolkit/compound_string.h"
 #include "toolkit/widget_ref.h"
 
@@ -32,6 +34,9 @@ public:
 
     // Makes the box, not shown yet.
     ModalBox(const Look& look, const char* text);
+
+    // A box that was made already, in a shell of its own; null when that was not possible.
+    explicit ModalBox(Widget box);
     ~ModalBox();
 
     ModalBox(const ModalBox&) = delete;
@@ -47,14 +52,19 @@ public:
     // Puts parts into the dialog font, when there is one.
     static void useDialogFont(std::initializer_list<Widget> parts);
 
-    // Gives the buttons their width and the look of dialog buttons.
+    // The look of dialog buttons.
+    static void prepareButton(Widget button);
+
+    // Gives the buttons their width and that look.
     void finishButtons(ButtonWidth width, const std::vector<Widget>& buttons);
 
-    // A press of the button, or a close request, answers with the value.
+    // A press of the button, a callback or a close request answers with the value.
     void answerOnPress(Widget button, int answer);
+    void answerOn(Widget widget, const char* callback, int answer);
     void answerOnClose(int answer);
 
-    // Shows the box as the top window and waits. A box that is destroyed meanwhile counts as closed.
+    // Shows the box as the top window, which it stays until it goes, and waits for an answer; once more when it
+    // is called again. A box that is destroyed meanwhile counts as closed.
     int run();
 
 private:
@@ -73,6 +83,7 @@ private:
     int result_ = kPending;
     int whenClosed_ = kPending;
     WidgetRef box_;
+    std::optional<TopWindowScope> shown_;
 };
 
 }  // namespace kite

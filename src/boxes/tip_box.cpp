@@ -9,6 +9,7 @@
 #include "toolkit/compound_string.h"
 #include "toolkit/nested_loop.h"
 #include "toolkit/never_destroyed.h"
+#include "toolkit/screen_point.h"
 #include "toolkit/widget_ref.h"
 
 namespace kite {
@@ -17,12 +18,6 @@ namespace {
 
 constexpr Colour kPaleYellow{0xFFFF, 0xFFFF, 0xFFDD};
 constexpr EventMask kWatchedEvents[] = {ButtonPressMask, EnterWindowMask, LeaveWindowMask};
-
-struct Point {
-    int x, y;
-
-    bool operator==(const Point&) const = default;
-};
 
 struct State {
     int result = 0;   // GUI_TIP_TAKEN_DOWN while a note waits; shared by notes within notes
@@ -59,17 +54,6 @@ Widget createLabel(Widget note, const char* text, Pixel background)
                                    label.get(), XmNshadowThickness, 1, XmNhighlightThickness, 0,
                                    XmNborderWidth, 1, XmNbackground, background, XmNforeground,
                                    blackPixel(note), nullptr);
-}
-
-Point pointerOnScreen(Widget window)
-{
-    Window root, child;
-    int x, y;
-    Point pointer{};
-    unsigned int buttons;
-    XQueryPointer(XtDisplay(window), XtWindow(window), &root, &child, &pointer.x, &pointer.y, &x,
-                  &y, &buttons);
-    return pointer;
 }
 
 void placeAtPointer(Widget note)

@@ -5,6 +5,7 @@
 
 #include "dialogs/late_focus.h"
 #include "dialogs/lost_release.h"
+#include "dialogs/mouse_buttons.h"
 #include "dialogs/special_keys.h"
 #include "frame/dispatcher.h"
 #include "frame/focus_leave.h"
@@ -63,11 +64,12 @@ void helpRequested(Widget, XtPointer data, XtPointer)
 
 }  // namespace
 
-void reportHover(Widget widget, Tag control)
+void reportPointer(Widget widget, Tag control)
 {
     XtAddEventHandler(widget, EnterWindowMask, False, entered, control.userData());
     XtAddEventHandler(widget, LeaveWindowMask, False, left, control.userData());
     XtAddEventHandler(widget, ButtonPressMask, False, mousePressed, nullptr);
+    reportButtons(widget, control);
 }
 
 void reportKeys(Widget widget, Tag control)
@@ -90,7 +92,7 @@ void reportCommonEvents(Widget widget, Tag control)
     reportFocusGain(widget);
     reportHelp(widget, control);
     reportKeys(widget, control);
-    reportHover(widget, control);
+    reportPointer(widget, control);
 }
 
 }  // namespace kite

@@ -9,7 +9,7 @@
 namespace kite {
 
 // Each of these for a control or a part of it: the parts of composed controls have no tag of their own.
-void reportHover(Widget widget, Tag control);
+void reportPointer(Widget widget, Tag control);
 void reportKeys(Widget widget, Tag control);
 void reportFocusGain(Widget widget);
 void reportHelp(Widget widget, Tag control);

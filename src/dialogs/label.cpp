@@ -36,6 +36,6 @@ int guiLabel(int id, int row, int x, int width, const char* text)
                       False, XmNfontList, building::font(), XmNlabelString, label.get());
     if (!widget) return reportMisuse("Label: cannot create control %d", id);
 
-    if (id != kAnonymous) reportHover(widget, tag);
+    if (id != kAnonymous) reportPointer(widget, tag);
     return building::append(id, ControlType::Label, widget);
 }

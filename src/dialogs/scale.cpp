@@ -26,7 +26,7 @@ void reportScaleEvents(Widget scale, Tag tag)
     reportFocusGain(bar);
     reportKeys(bar, tag);
     reportHelp(bar, tag);
-    reportHover(bar, tag);
+    reportPointer(bar, tag);
     letGoOfWhatIsHeld(bar);
 }
 

@@ -11,6 +11,7 @@
 #include "frame/dispatcher.h"
 #include "frame/hover.h"
 #include "toolkit/resources.h"
+#include "toolkit/scroll_bars.h"
 
 namespace kite {
 
@@ -30,14 +31,6 @@ void moved(Widget bar, XtPointer data, XtPointer)
         raise(GUI_EVENT_SCROLLED, tag.id(), *top);
 }
 
-void adjustLook(Widget bar)
-{
-    Widget const board = building::board();
-    XtVaSetValues(bar, XmNshadowThickness, 2, XmNhighlightThickness, 0, XmNbackground,
-                  resource<Pixel>(board, XmNbackground), XmNforeground,
-                  resource<Pixel>(board, XmNforeground), XmNtraversalOn, False, nullptr);
-}
-
 }  // namespace
 
 Widget createScrolled(const ScrolledKind& kind, Tag tag, int row, int rows, int x, int width)
@@ -50,13 +43,10 @@ Widget createScrolled(const ScrolledKind& kind, Tag tag, int row, int rows, int 
 
 void reportScrolling(Widget scrolled, Tag tag)
 {
-    auto* const across = resource<Widget>(scrolled, XmNhorizontalScrollBar);
+    adjustScrollBars(scrolled, building::board());
+    for (const char* const which : {XmNhorizontalScrollBar, XmNverticalScrollBar})
+        if (auto* const bar = resource<Widget>(scrolled, which)) letGoOfWhatIsHeld(bar);
     auto* const down = resource<Widget>(scrolled, XmNverticalScrollBar);
-    for (Widget const bar : {across, down})
-        if (bar) {
-            adjustLook(bar);
-            letGoOfWhatIsHeld(bar);
-        }
     if (!down) return;
     for (const char* const movement : kMovements)
         XtAddCallback(down, const_cast<char*>(movement), moved, tag.userData());

@@ -113,7 +113,7 @@ int guiTree(int id, int row, int rows, int x, int width)
     scrollByWheel(scrolled);
     spreadBackground(scrolled);
     XtAddEventHandler(scrolled, StructureNotifyMask, False, shown, nullptr);
-    if (auto* const around = resource<Widget>(scrolled, XmNclipWindow)) reportHover(around, tag);
+    if (auto* const around = resource<Widget>(scrolled, XmNclipWindow)) reportPointer(around, tag);
     XtAddCallback(scrolled, XmNtraverseObscuredCallback, uncover, nullptr);
     XtAddCallback(container, XmNselectionCallback, selected, tag.userData());
     XtAddCallback(container, XmNdefaultActionCallback, activated, tag.userData());

@@ -16,6 +16,7 @@
 #include "frame/keyboard.h"
 #include "frame/saved_geometry.h"
 #include "frame/session.h"
+#include "output/edit_popup.h"
 #include "toolkit/colours.h"
 #include "toolkit/compound_string.h"
 #include "toolkit/insertion_cursor.h"
@@ -53,6 +54,7 @@ Widget createOutputText(Widget scroller)
     showInsertionCursorWithFocus(text);
     raiseFunctionKeyCommands(text);
     acceptFileDrops(text);
+    offerEditPopup(text, text);
     dropParkedCopyOnChange(text);
     return text;
 }

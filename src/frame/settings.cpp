@@ -42,6 +42,10 @@ constexpr StringKey kMenuBarFont{"fnamn", 128, kHelvetica};
 constexpr StringKey kOutputFont{"fnamt", 128, kFixed};
 constexpr IntKey kDropDownHeight{"ch_height", 128};
 constexpr IntKey kToolbarStyle{"tbbstyle", 0};
+constexpr IntKey kFollowsFiles{"cddir", 0};
+constexpr IntKey kPrintsAcross{"landscape", 0};
+constexpr char kPrintCommand[] = "lpcmd";
+constexpr int kPrintCommandSize = 1024;
 constexpr StringKey kHoverDelay{"mouse_hover", 64, ""};
 
 constexpr int kDefaultHoverDelay = 2000;  // milliseconds
@@ -56,14 +60,21 @@ void write(const IntKey& key, int value)
     kxSetUPInt(appName(), key.name, value);
 }
 
+// The host leaves alone what was there before, when it has no such key.
+std::string read(const char* key, int size, std::string_view before)
+{
+    std::vector<char> buffer(static_cast<std::size_t>(size), '\0');
+    before.copy(buffer.data(), buffer.size() - 1);
+    kxGetUPStr(appName(), key, buffer.data(), size);
+    buffer.back() = '\0';
+    return buffer.data();
+}
+
 // An empty value counts as absent.
 std::string read(const StringKey& key)
 {
-    std::vector<char> buffer(static_cast<std::size_t>(key.size), '\0');
-    std::string_view{key.before}.copy(buffer.data(), buffer.size() - 1);
-    kxGetUPStr(appName(), key.name, buffer.data(), key.size);
-    buffer.back() = '\0';
-    return buffer.front() ? buffer.data() : key.byDefault;
+    const std::string value = read(key.name, key.size, key.before);
+    return value.empty() ? key.byDefault : value;
 }
 
 }  // namespace
@@ -91,6 +102,16 @@ int dropDownHeight()
 int toolbarStyle()
 {
     return read(kToolbarStyle);
+}
+
+bool followsFiles()
+{
+    return read(kFollowsFiles) == 1;
+}
+
+bool printsAcross()
+{
+    return read(kPrintsAcross) == 1;
 }
 
 Geometry savedGeometry()
@@ -124,6 +145,11 @@ std::string menuBarFont()
 std::string outputFont()
 {
     return read(kOutputFont);
+}
+
+std::string printCommand(const std::string& byDefault)
+{
+    return read(kPrintCommand, kPrintCommandSize, byDefault);
 }
 
 int hoverDelay()

@@ -13,6 +13,8 @@ int logMode();         // "logfm": 0 or less no log, 1 a new log, else a continu
 bool savesGeometry();  // "mwndp"
 int dropDownHeight();  // "ch_height": eighths
 int toolbarStyle();    // "tbbstyle": 1, plain toolbar buttons have a shadow
+bool followsFiles();   // "cddir": the working directory is that of the file that was chosen last
+bool printsAcross();   // "landscape"
 
 struct Geometry {
     int x, y, width, height;  // pixels; -1 stands for "not saved"
@@ -29,6 +31,9 @@ std::string logFileName();     // "logfn"
 std::string statusLineFont();  // "fnamm"
 std::string menuBarFont();     // "fnamn"
 std::string outputFont();      // "fnamt"
+
+// "lpcmd"; the default when there is none. Empty when the user wants it so.
+std::string printCommand(const std::string& byDefault);
 
 // "mouse_hover" in milliseconds; negative: tooltips and hover events are off.
 int hoverDelay();

@@ -1,7 +1,6 @@
 #include "output/output_text.h"
 
 #include <X11/IntrinsicP.h>
-#include <Xm/Text.h>
 
 #include "frame/main_frame.h"
 #include "toolkit/held_redisplay.h"
@@ -18,18 +17,6 @@ Widget textToRead()
 {
     paintOverdueText();
     return text();
-}
-
-Range selection(Widget text)
-{
-    Range range;
-    if (!XmTextGetSelectionPosition(text, &range.left, &range.right)) return {};
-    return range;
-}
-
-bool isUsable(const Range& range, XmTextPosition textLength)
-{
-    return range.left >= 0 && range.right > range.left && range.right <= textLength;
 }
 
 }  // namespace kite::output

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <X11/Intrinsic.h>
-#include <Xm/Xm.h>
 
 namespace kite::output {
 
@@ -12,17 +11,5 @@ Widget text();
 
 // The same for calls that do not write: what waits for longer than it should is painted.
 Widget textToRead();
-
-// Positions in the text, left before right.
-struct Range {
-    XmTextPosition left = 0;
-    XmTextPosition right = 0;
-};
-
-// 0 and 0 when nothing is selected.
-Range selection(Widget text);
-
-// Several operations work on the selection, or on everything unless it is a piece of the text.
-bool isUsable(const Range& range, XmTextPosition textLength);
 
 }  // namespace kite::output

@@ -13,6 +13,7 @@
 #include "toolkit/host_buffer.h"
 #include "toolkit/parked_copy.h"
 #include "toolkit/text_positions.h"
+#include "toolkit/text_selection.h"
 
 namespace kite::output {
 
@@ -22,7 +23,7 @@ XmTextPosition position(Widget area, int which)
 {
     if (which != GUI_SELECTION_START && which != GUI_SELECTION_END)
         return XmTextGetInsertionPosition(area);
-    const Range range = selection(area);
+    const TextRange range = selectionOf(area);
     return which == GUI_SELECTION_START ? std::min(range.left, range.right)
                                         : std::max(range.left, range.right);
 }

@@ -10,6 +10,7 @@
 #include "output/output_text.h"
 #include "toolkit/text_copy.h"
 #include "toolkit/text_positions.h"
+#include "toolkit/text_selection.h"
 
 namespace kite::output {
 
@@ -17,8 +18,8 @@ namespace {
 
 std::string_view toSave(Widget area, std::string_view whole)
 {
-    const Range range = selection(area);
-    if (!isUsable(range, XmTextGetLastPosition(area))) return whole;
+    if (!hasUsableSelection(area)) return whole;
+    const TextRange range = selectionOf(area);
     const std::size_t left = byteAt(whole, range.left);
     return whole.substr(left, byteAt(whole, range.right) - left);
 }

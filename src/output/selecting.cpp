@@ -13,6 +13,7 @@
 #include "toolkit/parked_copy.h"
 #include "toolkit/server_time.h"
 #include "toolkit/text_positions.h"
+#include "toolkit/text_selection.h"
 
 namespace kite::output {
 
@@ -32,7 +33,7 @@ XmTextPosition positionOf(std::string_view text, std::int64_t byte)
     return positionsIn(text.substr(0, static_cast<std::size_t>(inText))) + (byte - inText);
 }
 
-Range stretch(const LineStarts& lines, int lineEnds, int column, int count)
+TextRange stretch(const LineStarts& lines, int lineEnds, int column, int count)
 {
     const std::string_view text = lines.text();
     const auto lineStart = static_cast<std::int64_t>(lines.behindLineEnds(lineEnds));
@@ -45,7 +46,7 @@ Range stretch(const LineStarts& lines, int lineEnds, int column, int count)
 
 // Another client may have selected since our last event: with the time of that event, the server would
 // leave the selection to it.
-void select(Widget area, const Range& range)
+void select(Widget area, const TextRange& range)
 {
     XmTextSetSelection(area, range.left, range.right, serverTime(XtDisplay(area)));
     XmTextSetInsertionPosition(area, range.right);

@@ -12,6 +12,7 @@
 #include "output/output_text.h"
 #include "toolkit/held_redisplay.h"
 #include "toolkit/text_positions.h"
+#include "toolkit/text_selection.h"
 
 namespace kite::output {
 
@@ -70,7 +71,7 @@ void guiWriteSel(const char* text)
     Widget const area = output::text();
     if (!area || !text) return;
     const HeldRedisplay held{area};
-    const output::Range range = output::selection(area);
+    const TextRange range = selectionOf(area);
     XmTextReplace(area, range.left, range.right, output::mutableText(text));
     XmTextSetInsertionPosition(area, range.left + positionsIn(text));
 }
@@ -81,11 +82,6 @@ int guiClearOutput(void)
     Widget const area = output::text();
     if (!area) return 0;
     const HeldRedisplay held{area};
-    const output::Range range = output::selection(area);
-    char nothing[] = "";
-    if (output::isUsable(range, XmTextGetLastPosition(area)))
-        XmTextReplace(area, range.left, range.right, nothing);
-    else
-        XmTextSetString(area, nothing);
+    clearSelectionOrAll(area);
     return 0;
 }
