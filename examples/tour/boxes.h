@@ -14,5 +14,6 @@ void askText();
 void askHiddenText();
 void nestBoxes();
 void showAbout();
+void showOwnWindow();
 
 }  // namespace tour

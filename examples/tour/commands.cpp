@@ -5,6 +5,8 @@
 #include <kitegui.h>
 
 #include <array>
+#include <chrono>
+#include <thread>
 
 #include "boxes.h"
 #include "dialogs.h"
@@ -46,6 +48,31 @@ void runPlugin()
     guiStartPlugin(threeTicks);
 }
 
+void runPluginNow()
+{
+    guiRunPlugin(threeTicks);
+}
+
+// No event is delivered while it computes; the user can stop it all the same.
+void compute()
+{
+    constexpr int kSteps = 50;
+    constexpr std::chrono::milliseconds kStep{20};
+    for (int step = 1; step <= kSteps; ++step) {
+        guiSetProgress(step * kFull / kSteps);
+        std::this_thread::sleep_for(kStep);
+        if (guiUserBreak()) return report("Control+F10 has stopped it");
+    }
+    report("It was computed");
+}
+
+// The menus stay; the toolbar is built again.
+void startAnew()
+{
+    guiRestart();
+    buildToolbar();
+}
+
 void moveTo(int x, int y)
 {
     guiMoveWin(x, y, -1, -1);
@@ -79,7 +106,18 @@ struct Action {
 
 constexpr Action kActions[] = {
     {Close, leave},
+    {Open, openFile},
     {Save, saveOutput},
+    {ChooseDirectory, chooseDirectory},
+    {Print, printOutput},
+    {ShowPageSettings, showPageSettings},
+    {Cut, cutSelection},
+    {Copy, copySelection},
+    {Paste, pasteSelection},
+    {CopyLine, copyLine},
+    {AppendLine, appendLine},
+    {ShowClipboard, showClipboard},
+    {EditOutput, editOutput},
     {WriteLines, writeLines},
     {WriteHtml, writeHtml},
     {Replace, replaceSelection},
@@ -93,6 +131,10 @@ constexpr Action kActions[] = {
     {MoveToBottomRight, moveToBottomRight},
     {MoveToCentre, moveToCentre},
     {RunPlugin, runPlugin},
+    {RunPluginNow, runPluginNow},
+    {Compute, compute},
+    {StartAnew, startAnew},
+    {ShowOwnWindow, showOwnWindow},
     {ShowInformation, showInformation},
     {ShowError, showError},
     {ShowTip, showTip},
@@ -113,6 +155,9 @@ constexpr Action kActions[] = {
     {ShowSettings, showSettings},
     {ShowLetter, showLetter},
     {ShowFontsAndColours, showFontsAndColours},
+    {ShowMeasurements, showMeasurements},
+    {ShowLayout, showLayout},
+    {AskForReminder, askForReminder},
 };
 
 // F1 to F9 in the Output area.

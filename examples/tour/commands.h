@@ -6,7 +6,18 @@ namespace tour {
 
 enum Command {
     Close = 0,
+    Open,
     Save,
+    ChooseDirectory,
+    Print,
+    ShowPageSettings,
+    Cut,
+    Copy,
+    Paste,
+    CopyLine,
+    AppendLine,
+    ShowClipboard,
+    EditOutput,
     WriteLines,
     WriteHtml,
     Replace,
@@ -22,6 +33,10 @@ enum Command {
     MoveToBottomRight,
     MoveToCentre,
     RunPlugin,
+    RunPluginNow,
+    Compute,
+    StartAnew,
+    ShowOwnWindow,
     ShowInformation,
     ShowError,
     ShowTip,
@@ -41,11 +56,15 @@ enum Command {
     ShowFiles,
     ShowSettings,
     ShowLetter,
-    ShowFontsAndColours
+    ShowFontsAndColours,
+    ShowMeasurements,
+    ShowLayout,
+    AskForReminder
 };
 
-// Builds the menu bar and the toolbar.
-void buildCommands();
+// Build the menu bar and the toolbar.
+void buildMenuBar();
+void buildToolbar();
 
 // Does what the user has chosen; `state` is 1 when a check item was set.
 void runCommand(int id, int state);

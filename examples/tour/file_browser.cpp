@@ -84,6 +84,17 @@ void show(int index)
     guiSetText(Size, sizeOf(index).c_str());
 }
 
+// Of the directory below the one that was chosen, or of a file, only the mark in the tree goes.
+void offerMore(int key)
+{
+    guiCreatePopMenu();
+    guiAppendPopMenu("&First entry");
+    guiAppendPopMenu("&Hide it");
+    const int choice = guiShowPopMenu(0, 0, 0, 0);
+    if (choice == 1) show(guiNthTree(Files, key, 1) - 1);
+    if (choice == 2) guiDelTree(Files, key);
+}
+
 void choose(int index)
 {
     if (index < 0) return;
@@ -96,6 +107,7 @@ int handle(int event, int id, int a, int b)
     if (event == GUI_EVENT_INIT) begin();
     if (event == GUI_EVENT_SELECT && b == 0) show(a);
     if (event == GUI_EVENT_SELECT && b == 1) choose(a);
+    if (event == GUI_EVENT_CONTEXT && guiGetPos(Files) > 0) offerMore(guiGetPos(Files));
     if (event == GUI_EVENT_COMMAND && id == Close) guiClose(0);
     return 0;
 }

@@ -53,7 +53,7 @@ public:
 
     void save(const tour::Step& step, const screen::Picture& picture)
     {
-        const std::string number = std::to_string(100 + ++count_).substr(1);
+        const std::string number = std::to_string(1000 + ++count_).substr(1);
         const auto path = directory_ / ("tour-" + number + "-" + step.picture + ".png");
         std::printf("%s: %s\n", path.filename().c_str(), step.what.c_str());
         std::fflush(stdout);

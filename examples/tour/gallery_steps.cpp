@@ -97,6 +97,22 @@ std::function<void()> clickedInDialog(const char* title, Point place)
     };
 }
 
+void contextMenuAt(Point place)
+{
+    robot().moveTo(place);
+    robot().click(RightButton);
+}
+
+void contextMenu()
+{
+    contextMenuAt(wm::clientRect(frame()).centre());
+}
+
+void contextMenuOfTasks()
+{
+    contextMenuAt(wm::clientRect(wm::waitForWindow("Tasks")).corner() + Point{80, 60});
+}
+
 void leaveToolbar()
 {
     robot().moveTo(wm::clientRect(frame()).centre());
@@ -112,7 +128,8 @@ const std::vector<Step>& gallerySteps()
         {"tooltip", "the pointer rests on a button", rest},
         {"tooltip-left", "the pointer leaves it", leaveToolbar},
         {"menu", "Alt+F opens a menu", key(XK_f, Alt)},
-        {"menu-output", "Right: the next one", key(XK_Right)},
+        {"menu-edit", "Right: the next one", key(XK_Right)},
+        {"menu-output", "and the one after it", key(XK_Right)},
         {"menu-select", "S: a menu in it", key(XK_s)},
         {"menus-left", "Escape closes them", keys({XK_Escape, XK_Escape})},
         {"menus-nested", "Alt+R, M, C: three levels",
@@ -131,6 +148,22 @@ const std::vector<Step>& gallerySteps()
         {"select-all", "Control+Shift+A selects everything", key(XK_a, Control | Shift)},
         {"save", "Control+S asks for a file name", key(XK_s, Control)},
         {"saved", "Return saves the selection", key(XK_Return)},
+        {"edit-menu", "mouse button 3 pops up the edit menu", contextMenu},
+        {"edit-copied", "C copies the selection", key(XK_c)},
+        {"clipboard", "Control+Z shows the lines on the clipboard", key(XK_z, Control)},
+        {"open", "Control+Shift+O asks for a text to open", key(XK_o, Control | Shift)},
+        {"opened", "its name is typed", typed("recipes/bread.txt")},
+        {"directory", "Control+Shift+D asks for a directory", key(XK_d, Control | Shift)},
+        {"directory-left", "Escape gives up", key(XK_Escape)},
+        {"editor", "Control+Shift+E takes the output into an editor", key(XK_e, Control | Shift)},
+        {"editor-typed", "something is typed into it", text("Edited: ")},
+        {"editor-done", "Control+Tab to OK, and Space: the output is as it was edited",
+         [] {
+             robot().key(XK_Tab, Control);
+             robot().key(XK_space);
+         }},
+        {"printing", "Control+Shift+P prints: a box asks for patience", key(XK_p, Control | Shift)},
+        {"printed", "the command has ended", [] {}},
         {"protect", "a check button protects the output: the eraser turns grey",
          clicked(LockButton)},
         {"menu-check", "the item of the menu is set with it", key(XK_o, Alt)},
@@ -199,6 +232,8 @@ const std::vector<Step>& gallerySteps()
              robot().type("Read a book");
              robot().key(XK_Return);
          }},
+        {"tasks-context", "mouse button 3 on the list pops up a menu", contextMenuOfTasks},
+        {"tasks-all", "A selects all of them", key(XK_a)},
         {"tasks-closed", "Escape closes them", key(XK_Escape)},
         {"files", "Control+F shows the files", key(XK_f, Control)},
         {"files-expanded", "a click on a mark expands a directory",
@@ -227,6 +262,17 @@ const std::vector<Step>& gallerySteps()
         {"fonts-large", "Tab and Space: bold and large",
          keys({XK_Tab, XK_space, XK_Tab, XK_Tab, XK_space})},
         {"fonts-closed", "Escape closes them", key(XK_Escape)},
+        {"measurements", "Control+Shift+M shows measurements", key(XK_m, Control | Shift)},
+        {"measurements-added", "one is typed, and Return adds it: the mean is another", typed("5")},
+        {"measurements-closed", "Escape closes them", key(XK_Escape)},
+        {"layout", "Control+Shift+L shows a layout by heights", key(XK_l, Control | Shift)},
+        {"layout-unlocked", "Tab to the check box, and Space unlocks the edit",
+         keys({XK_Tab, XK_Tab, XK_Tab, XK_space})},
+        {"layout-hidden", "Return hides it", key(XK_Return)},
+        {"layout-closed", "Escape closes it", key(XK_Escape)},
+        {"reminder", "Control+Shift+R: a dialog when the command is done",
+         key(XK_r, Control | Shift)},
+        {"reminder-closed", "Return closes it", key(XK_Return)},
         {"icon", "the frame is iconified", [] { wm::iconify(frame()); }},
         {"restored", "and brought back", [] { wm::deiconify(frame()); }},
         {"closing", "Control+Q leaves", key(XK_q, Control)},

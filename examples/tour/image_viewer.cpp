@@ -52,13 +52,25 @@ void press(int button)
     }
 }
 
-int handle(int event, int id, int a, int)
+void showPlace(int x, int y)
+{
+    guiSetText(Caption, ("At " + std::to_string(x) + ", " + std::to_string(y)).c_str());
+}
+
+// A key, wherever the keyboard is, on the picture or on one of the buttons; or a click on the picture.
+void keyOrClick(int id, int a, int b)
+{
+    if (id == View) return showPlace(a, b);
+    if (a == GUI_KEY_LEFT) show(shown - 1);
+    if (a == GUI_KEY_RIGHT) show(shown + 1);
+}
+
+int handle(int event, int id, int a, int b)
 {
     if (event == GUI_EVENT_INIT) show(shown);
     if (event == GUI_EVENT_COMMAND) press(id);
-    // Wherever the keyboard is: on the picture, or on one of the buttons.
-    if (event == GUI_EVENT_KEY && a == GUI_KEY_LEFT) show(shown - 1);
-    if (event == GUI_EVENT_KEY && a == GUI_KEY_RIGHT) show(shown + 1);
+    if (event == GUI_EVENT_KEY) keyOrClick(id, a, b);
+    if (event == GUI_EVENT_CONTEXT && id == View) clear();
     return 0;
 }
 

@@ -47,7 +47,10 @@ void showPlace(int line, int column)
 {
     countLines();
     if (line < 0) return report("The letter is empty");
-    report("Line " + std::to_string(line + 1) + ", column " + std::to_string(column + 1));
+    std::array<char, 128> text{};
+    guiGetLine(Letter, line, text.data(), static_cast<int>(text.size()));
+    report("Line " + std::to_string(line + 1) + ", column " + std::to_string(column + 1) + ": " +
+           text.data());
 }
 
 void sign()

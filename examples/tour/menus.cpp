@@ -36,9 +36,26 @@ constexpr MenuEntry item(const char* name, int id, char accelerator = 0, int sty
 
 constexpr MenuEntry kMenuBar[] = {
     menu("&File"),
+    item("&Open a text...", Open, 'O'),
     item("&Save the output...", Save, 's'),
+    item("A &directory...", ChooseDirectory, 'D'),
+    kSeparator,
+    item("&Print the output", Print, 'P'),
+    item("Default pa&ge settings", ShowPageSettings),
     kSeparator,
     item("&Quit", Close, 'q'),
+    kEnd,
+
+    menu("&Edit"),
+    item("Cu&t", Cut),
+    item("&Copy", Copy, 'c'),
+    item("&Paste", Paste),
+    kSeparator,
+    item("Copy the &line of the cursor", CopyLine, 'C'),
+    item("&Add that line to the clipboard", AppendLine, 'a'),
+    item("&Show the clipboard", ShowClipboard, 'z'),
+    kSeparator,
+    item("The whole output in an &editor...", EditOutput, 'E'),
     kEnd,
 
     menu("&Output"),
@@ -62,6 +79,9 @@ constexpr MenuEntry kMenuBar[] = {
     menu("F&rame"),
     item("&Timer feeds the gauge", Timer, 't', kCheck),
     item("Run a &plug-in", RunPlugin),
+    item("Run a plug-in &now", RunPluginNow),
+    item("&Compute for a second", Compute),
+    item("&Start anew", StartAnew),
     kSeparator,
     menu("&Move it"),
     menu("Into a &corner"),
@@ -81,6 +101,7 @@ constexpr MenuEntry kMenuBar[] = {
     item("&Yes or No", AskYesNo, 'y'),
     item("Yes, No or &Cancel", AskYesNoCancel),
     item("&Boxes in boxes", NestBoxes),
+    item("A &window of the host's own", ShowOwnWindow),
     kSeparator,
     item("A &text...", AskText),
     item("A &hidden text...", AskHiddenText),
@@ -98,6 +119,10 @@ constexpr MenuEntry kMenuBar[] = {
     item("&Settings...", ShowSettings, 'm'),
     item("&Letter...", ShowLetter, 'o'),
     item("Fonts and &colours...", ShowFontsAndColours, 'x'),
+    kSeparator,
+    item("Meas&urements...", ShowMeasurements, 'M'),
+    item("Layou&t...", ShowLayout, 'L'),
+    item("A re&minder, when this is done", AskForReminder, 'R'),
     kEnd,
 
     menu("&Help"),
@@ -151,9 +176,13 @@ void add(const Button& button)
 
 }  // namespace
 
-void buildCommands()
+void buildMenuBar()
 {
     for (const MenuEntry& entry : kMenuBar) add(entry);
+}
+
+void buildToolbar()
+{
     for (const Button& button : kToolbar) add(button);
 }
 

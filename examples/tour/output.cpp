@@ -3,9 +3,9 @@
 #include <kitegui.h>
 
 #include <array>
-#include <cstdio>
 #include <string>
 
+#include "commands.h"
 #include "report.h"
 
 namespace tour {
@@ -49,9 +49,8 @@ void welcome()
 void writeLines()
 {
     for (int line = 0; line < kLinesAtATime; ++line) {
-        Text text{};
-        std::snprintf(text.data(), text.size(), "Line %d of plain text", ++written);
-        guiWriteLine(text.data());
+        guiWriteText(("Line " + std::to_string(++written)).c_str());
+        guiWriteLine(" of plain text");
     }
     report("Five lines were written");
 }
@@ -101,16 +100,12 @@ void showCursor()
 
 void clearOutput()
 {
+    if (guiGetCommandCheck(Protect) == 1) {
+        guiBeep();
+        return report("The output is protected");
+    }
     guiClearOutput();
     report("Cleared");
-}
-
-void saveOutput()
-{
-    Text path{"tour-output.txt"};
-    if (!ask("Save the output, or what is selected of it, in the file:", path))
-        return report("Nothing was saved");
-    if (guiSaveOutput(path.data()) == 0) report(std::string{"Saved in "} + path.data());
 }
 
 }  // namespace tour

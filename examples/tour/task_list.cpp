@@ -10,7 +10,7 @@ namespace tour {
 
 namespace {
 
-enum Control { Close = GUI_CANCEL_BUTTON, Tasks = 1, NewTask, Add, Remove, Up, Down, Count };
+enum Control { Close = GUI_CANCEL_BUTTON, Tasks = 1, NewTask, Add, Remove, Up, Down, More, Count };
 
 constexpr int kButtons = 108;  // dialog units
 constexpr int kButtonWidth = 40;
@@ -22,6 +22,7 @@ void build()
     guiButton(Up, 0, kButtons, kButtonWidth, "&Up", 0);
     guiButton(Down, 1, kButtons, kButtonWidth, "&Down", 0);
     guiButton(Remove, 2, kButtons, kButtonWidth, "&Remove", 0);
+    guiButton(More, 3, kButtons, kButtonWidth, "&More...", 0);
     guiLabel(Count, 6, kButtons, kButtonWidth, "");
     guiEdit(NewTask, 7, 0, 100, 0, 0);
     guiButton(Add, 7, kButtons, kButtonWidth, "&Add", 1);
@@ -64,6 +65,23 @@ void removeSelected()
         guiRemoveItem(Tasks, guiGetNthSel(Tasks, n));
 }
 
+// At the pointer, or beside the button.
+void offerMore(int besideControl)
+{
+    guiCreatePopMenu();
+    guiAppendPopMenu("Select &all");
+    guiAppendPopMenu("Select &nothing");
+    guiSepPopMenu();
+    guiAppendPopMenu("&Remove what is selected");
+    switch (guiShowPopMenu(0, 0, 0, besideControl)) {
+    case 1: guiSelAll(Tasks); break;
+    case 2: guiClrAll(Tasks); break;
+    case 3: removeSelected(); break;
+    default: return;
+    }
+    showState();
+}
+
 void press(int button)
 {
     switch (button) {
@@ -71,6 +89,7 @@ void press(int button)
     case Remove: removeSelected(); break;
     case Up: guiMoveItemUp(Tasks); break;
     case Down: guiMoveItemDown(Tasks); break;
+    case More: offerMore(More); break;
     default: guiClose(guiGetItemCount(Tasks)); return;
     }
     showState();
@@ -87,6 +106,7 @@ int handle(int event, int id, int, int b)
     if (event == GUI_EVENT_INIT) begin();
     if (event == GUI_EVENT_SELECT) selected(b == 1);
     if (event == GUI_EVENT_COMMAND) press(id);
+    if (event == GUI_EVENT_CONTEXT && id == Tasks) offerMore(0);
     return 0;
 }
 

@@ -4,6 +4,8 @@
 #include <kitegui.h>
 
 #include "commands.h"
+#include "dialogs.h"
+#include "output.h"
 
 namespace {
 
@@ -12,6 +14,7 @@ int handle(int event, int id, int a, int)
     if (event == GUI_EVENT_INIT && id == 0) tour::begin();
     if (event == GUI_EVENT_COMMAND) tour::runCommand(id, a);
     if (event == GUI_EVENT_TIMER) tour::tick();
+    if (event == GUI_EVENT_DROP) tour::openDroppedFile();
     return 0;
 }
 
@@ -20,7 +23,8 @@ int handle(int event, int id, int a, int)
 int main()
 {
     guiSetAppInfo("kitegui tour", "tour");
-    guiInit(handle);
-    tour::buildCommands();
+    guiInit(tour::handleReminder);  // of dialogs without a handler of their own
+    tour::buildMenuBar();
+    tour::buildToolbar();
     return guiStart(handle);
 }

@@ -54,7 +54,6 @@ Widget createButton(Widget box, const char* name, const char* text)
     Widget const button = XtVaCreateManagedWidget(name, xmPushButtonWidgetClass, box,
                                                   XmNlabelString, label.get(), nullptr);
     frameFonts::apply(button, frameFonts::Use::Dialog);
-    ModalBox::prepareButton(button);
     return button;
 }
 
@@ -70,6 +69,8 @@ Parts createParts(Widget box)
     parts.cancel = createButton(box, "v_clpbtn", "Cancel");
     XtVaSetValues(box, XmNinitialFocus, parts.scrolled, XmNdefaultButton, parts.ok, XmNcancelButton,
                   parts.cancel, nullptr);
+    // Only now: a button that becomes the default one gets a shadow around it.
+    for (Widget const button : {parts.ok, parts.cancel}) ModalBox::prepareButton(button);
     return parts;
 }
 

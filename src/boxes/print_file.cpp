@@ -23,7 +23,8 @@ namespace kite {
 namespace {
 
 constexpr int kCouldNotRun = -1;  // what kxExec returns then
-constexpr std::chrono::seconds kUntilDrawn{1};
+constexpr int kUpdates = 10;
+constexpr std::chrono::milliseconds kBetweenUpdates{100};
 
 bool createLabel(Widget box)
 {
@@ -34,11 +35,14 @@ bool createLabel(Widget box)
     return label != nullptr;
 }
 
-// Window managers take their time to show a window; no event of the user's is looked at meanwhile.
+// Window managers take their time to show a window: a second, in which it is painted as soon as it is there. No
+// event of the user's is looked at meanwhile.
 void drawNow(Widget box)
 {
-    XmUpdateDisplay(box);
-    std::this_thread::sleep_for(kUntilDrawn);
+    for (int update = 0; update < kUpdates; ++update) {
+        XmUpdateDisplay(box);
+        std::this_thread::sleep_for(kBetweenUpdates);
+    }
     XmUpdateDisplay(box);
 }
 
