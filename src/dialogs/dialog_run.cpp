@@ -29,6 +29,7 @@ struct Run {
     WidgetRef board;
     WidgetRef requestedFocus;  // set by requestFocus
     int code = 0;              // set by noteCode
+    int loopsBefore = loopsRunning();
     Run* outer;
 };
 
@@ -89,10 +90,14 @@ int run()
     return code;
 }
 
-void noteCode(Widget top, int code)
+std::optional<int> noteCode(Widget top, int code)
 {
-    for (Run* run = innermost; run; run = run->outer)
-        if (run->board.get() == top) run->code = code;
+    for (Run* run = innermost; run; run = run->outer) {
+        if (run->board.get() != top) continue;
+        run->code = code;
+        return run->loopsBefore;
+    }
+    return std::nullopt;
 }
 
 void requestFocus(Widget control)

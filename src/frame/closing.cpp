@@ -13,8 +13,10 @@
 #include "frame/hover.h"
 #include "frame/log_file.h"
 #include "frame/main_frame.h"
+#include "frame/main_loop.h"
 #include "frame/settings.h"
 #include "frame/top_window.h"
+#include "toolkit/nested_loop.h"
 #include "toolkit/resources.h"
 #include "toolkit/shells.h"
 #include "toolkit/widget_ref.h"
@@ -22,6 +24,8 @@
 namespace kite::frame {
 
 namespace {
+
+constexpr int kHostsLoop = -1;  // the host dispatches by itself: none of the loops is the frame's
 
 DialogActions dialogs{nullptr, nullptr, nullptr};  // set by the first dialog
 
@@ -35,23 +39,23 @@ void saveGeometry(Widget shell)
 
 // A dialog or box lives in a shell of its own below the window that it belongs to. A host's widget may
 // live anywhere else: then the frame is next.
-void closeDialog(Widget dialog)
+void closeDialog(Widget dialog, int loopsBefore)
 {
     Widget const shell = shellOf(dialog);
     Widget const parent = XtParent(shell);
     if (dialog != shell) XtUnmanageChild(dialog);
-    destroyShell(shell);
+    closeShell(shell, loopsBefore);
     setTopWindow(parent && parent != widgets().shell ? parent : mainWindow());
 }
 
 void closeTopWindow(int code)
 {
     Widget const top = topWindow();
-    if (dialogs.noteCode) dialogs.noteCode(top, code);
+    const auto loopsBefore = dialogs.noteCode ? dialogs.noteCode(top, code) : std::nullopt;
     if (mainWindow() && shellOf(top) == widgets().shell)
         close();
     else
-        closeDialog(top);
+        closeDialog(top, loopsBefore.value_or(loopsRunning()));
 }
 
 }  // namespace
@@ -85,7 +89,7 @@ void close()
     setMainWindow(nullptr);
     setTopWindow(nullptr);
     XtUnmanageChild(mainWindow.get());
-    destroyShell(shell);
+    closeShell(shell, isLoopRunning() ? 0 : kHostsLoop);
 }
 
 }  // namespace kite::frame

@@ -1,16 +1,15 @@
 #include "output/output_text.h"
 
-#include <X11/IntrinsicP.h>
-
 #include "frame/main_frame.h"
 #include "toolkit/held_redisplay.h"
+#include "toolkit/shells.h"
 
 namespace kite::output {
 
 Widget text()
 {
     Widget const text = frame::widgets().text;
-    return text && !text->core.being_destroyed ? text : nullptr;
+    return text && !isGoing(text) ? text : nullptr;
 }
 
 Widget textToRead()

@@ -1,6 +1,10 @@
 #include "toolkit/nested_loop.h"
 
+#include <algorithm>
 #include <utility>
+#include <vector>
+
+#include "toolkit/never_destroyed.h"
 
 namespace kite {
 
@@ -8,6 +12,13 @@ namespace {
 
 int running = 0;  // loops, one inside the other
 int begun = 0;
+
+struct Waiting {
+    int most;
+    std::function<void()> work;
+};
+std::vector<Waiting>& waiting = neverDestroyed<std::vector<Waiting>>();
+
 LoopObserver observer{[] {}, [] {}};
 
 // Of an event that no server sends: neither X nor its extensions use the number.
@@ -40,6 +51,19 @@ bool isProcessingEvents()
     return running > 0;
 }
 
+int loopsRunning()
+{
+    return running;
+}
+
+void whenLoopsAre(int most, const std::function<void()>& work)
+{
+    if (running <= most)
+        work();
+    else
+        waiting.push_back({most, work});
+}
+
 int loopsBegun()
 {
     return begun;
@@ -60,6 +84,11 @@ ProcessingEvents::ProcessingEvents()
 ProcessingEvents::~ProcessingEvents()
 {
     --running;
+    const auto due = std::ranges::stable_partition(
+        waiting, [](const Waiting& one) { return running > one.most; });
+    const std::vector<Waiting> works{due.begin(), due.end()};
+    waiting.erase(due.begin(), due.end());
+    for (const Waiting& one : works) one.work();
     observer.ended();
 }
 

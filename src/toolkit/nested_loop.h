@@ -13,6 +13,12 @@ namespace kite {
 // True inside any of the loops below.
 bool isProcessingEvents();
 
+// How many of them run now, one inside the other.
+int loopsRunning();
+
+// Does the work as soon as no more than `most` loops run, or now.
+void whenLoopsAre(int most, const std::function<void()>& work);
+
 // How many of them have begun so far: a call during which the number grows has let the user do things.
 int loopsBegun();
 

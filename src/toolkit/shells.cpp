@@ -4,6 +4,12 @@
 #include <Xm/Protocols.h>
 #include <Xm/Xm.h>
 
+#include <algorithm>
+#include <vector>
+
+#include "toolkit/nested_loop.h"
+#include "toolkit/never_destroyed.h"
+
 namespace kite {
 
 namespace {
@@ -27,6 +33,28 @@ void forgetPathOfKeys(Widget shell, XtPointer, XtPointer)
     XtDispatchEvent(&event);
 }
 
+// Closed, and not yet destroyed.
+std::vector<Widget>& closed = neverDestroyed<std::vector<Widget>>();
+
+void forget(Widget shell, XtPointer, XtPointer)
+{
+    std::erase(closed, shell);
+}
+
+void destroyClosed(Widget shell)
+{
+    if (std::ranges::find(closed, shell) == closed.end()) return;  // it went with another one
+    std::erase(closed, shell);
+    destroyShell(shell);
+}
+
+bool isClosed(Widget widget)
+{
+    if (closed.empty()) return false;
+    while (widget && std::ranges::find(closed, widget) == closed.end()) widget = XtParent(widget);
+    return widget != nullptr;
+}
+
 }  // namespace
 
 Widget shellOf(Widget widget)
@@ -41,6 +69,22 @@ void destroyShell(Widget shell)
     XtAddCallback(shell, XmNdestroyCallback, forgetPathOfKeys,
                   nullptr);  // behind the toolkit's own
     XtDestroyWidget(shell);
+}
+
+void closeShell(Widget shell, int loopsBefore)
+{
+    if (loopsRunning() <= loopsBefore + 1) return destroyShell(shell);
+    XtUngrabKeyboard(shell, CurrentTime);
+    if (XtIsRealized(shell))
+        XWithdrawWindow(XtDisplay(shell), XtWindow(shell), XScreenNumberOfScreen(XtScreen(shell)));
+    XtAddCallback(shell, XmNdestroyCallback, forget, nullptr);
+    closed.push_back(shell);
+    whenLoopsAre(loopsBefore + 1, [shell] { destroyClosed(shell); });
+}
+
+bool isGoing(Widget widget)
+{
+    return widget->core.being_destroyed || isClosed(widget);
 }
 
 void onCloseRequest(Widget shell, XtCallbackProc callback, XtPointer data)

@@ -14,6 +14,15 @@ Widget shellOf(Widget widget);
 // makes up for a shell that it destroys.
 void destroyShell(Widget shell);
 
+// The same for a window that is closed while other windows wait, one inside the other: an event of one of its
+// widgets may be what they have come up in. Xt would destroy the widget when the event is over in which it is
+// closed, and go on with the outer event. So it is out of use at once, and destroyed when no more than
+// `loopsBefore` event loops run and one more: that of the window.
+void closeShell(Widget shell, int loopsBefore);
+
+// It is destroyed, or waits for that.
+bool isGoing(Widget widget);
+
 // Reports the window manager's requests to close the shell, and nothing else happens then: what a
 // close request means is for the callback to decide.
 void onCloseRequest(Widget shell, XtCallbackProc callback, XtPointer data);

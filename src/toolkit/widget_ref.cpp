@@ -1,7 +1,8 @@
 #include "toolkit/widget_ref.h"
 
-#include <X11/IntrinsicP.h>
 #include <X11/StringDefs.h>
+
+#include "toolkit/shells.h"
 
 namespace kite {
 
@@ -14,7 +15,7 @@ void WidgetRef::reset(Widget widget)
 
 Widget WidgetRef::get() const
 {
-    return widget_ && !widget_->core.being_destroyed ? widget_ : nullptr;
+    return widget_ && !isGoing(widget_) ? widget_ : nullptr;
 }
 
 void WidgetRef::destroyed(Widget widget, XtPointer self, XtPointer)

@@ -25,7 +25,7 @@ public:
     // to be closed, and the toolkit knows nothing of it any more.
     void abandon() { widget_ = nullptr; }
 
-    // The widget, or null once its destruction has begun.
+    // The widget, or null once its destruction has begun or its window was closed.
     Widget get() const;
     explicit operator bool() const { return get() != nullptr; }
 

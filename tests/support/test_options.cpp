@@ -19,6 +19,7 @@ constexpr EnvironmentOption kOwnOptions[] = {
     {"--screen=", "KITE_TEST_SCREEN"},
     {"--deadline=", "KITE_TEST_DEADLINE"},
     {"--seed=", "KITE_TEST_SEED"},
+    {"--events=", "KITE_TEST_EVENTS"},
 };
 
 std::optional<std::string> valueOf(std::string_view argument, std::string_view prefix)

@@ -4,6 +4,7 @@
 //     --screen=1280x1024x24      size and depth of the screen (else KITE_TEST_SCREEN)
 //     --deadline=30              seconds for each test; 0: no end (else KITE_TEST_DEADLINE)
 //     --seed=1                   of tests with random steps (else KITE_TEST_SEED)
+//     --events=20000             how many steps these do (else KITE_TEST_EVENTS)
 
 #pragma once
 
