@@ -54,6 +54,7 @@ void reportClickOnPicture(Widget image, int id, const XButtonEvent& event)
 void reportContext(Widget part, Tag tag, const XButtonEvent& event)
 {
     Widget const control = controlAround(part, tag.type());
+    if (!XtIsSensitive(control)) return;  // around the items of a tree it is not known
     const Point place = placeIn(control, part, event);
     if (tag.type() == ControlType::List)
         raise(GUI_EVENT_CONTEXT, tag.id(), XmListYToPos(control, static_cast<Position>(place.y)));
