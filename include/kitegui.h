@@ -109,7 +109,8 @@ enum {
                                     button, choice, tree, slider or spin box, x and y pixels from its corner
                                     (of a tree: from that of its items, however far they are scrolled), or on
                                     an image, inside its frame.
-                                    id, position from 1, 0: on a list, on the item at that position; 0 on none.
+                                    id, position from 1, 0: on a list, on the item at that position; below the
+                                    last one the position behind it, 0 on an empty list.
                                     Not raised by an anonymous slider or spin box */
     GUI_EVENT_HOVER = 63,        /* id, 0, 0: the pointer rested on a control for the hover delay */
     GUI_EVENT_SCROLLED = 64      /* id, first visible line from 0, 0: a list, text or tree was scrolled */
