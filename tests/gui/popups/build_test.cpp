@@ -51,24 +51,16 @@ void expectNoPopup()
 
 }  // namespace
 
-GUI_TEST(PopupBuild, IsAnEmptyMenuOfTheMainFrame)
+GUI_TEST(PopupBuild, IsAnEmptyMenuOfTheTopWindow)
 {
-    expectFreshPopupOf(app.find("v_mainwnd"));
-}
-
-GUI_TEST(PopupBuild, IsAMenuOfTheDialogThatRuns)
-{
+    Widget const frame = app.find("v_mainwnd");
+    expectFreshPopupOf(frame);
     runDialog([] { guiButton(1, 0, 0, 60, "Button", 0); },
               [](Shown dialog) { expectFreshPopupOf(dialog.widget()); });
-}
-
-// The menu still belongs to the window that is on top.
-GUI_TEST(PopupBuild, IsAMenuOfTheMainFrameWhileADialogIsBuilt)
-{
     ASSERT_EQ(guiDialog(""), 0);
-    expectFreshPopupOf(app.find("v_mainwnd"));
+    expectFreshPopupOf(frame);
     guiClose(0);
-    EXPECT_NE(popup(), nullptr);
+    EXPECT_NE(popup(), nullptr) << "a dialog under construction is no top window";
 }
 
 GUI_TEST(PopupBuild, ItemsAreNumberedFromOneAndSeparatorsAreNot)
@@ -94,17 +86,17 @@ GUI_TEST(PopupBuild, LabelsAndMnemonicsAreMadeOfTheNames)
         const char *name, *label;
         KeySym mnemonic;
     } rows[] = {
-        {"Plain", "Plain", NoSymbol},
+        {"Plain", "Plain", XK_VoidSymbol},
         {"&Open", "Open", XK_O},
         {"E&xit", "Exit", XK_x},
         {"Page &1", "Page 1", XK_1},
         {"&A &B", "A B", XK_A},
-        {"R&&D", "RD", NoSymbol},
-        {"&&D", "D", NoSymbol},
-        {"Last&", "Last", NoSymbol},
-        {"&-Dash", "-Dash", NoSymbol},
-        {"& Space &x", " Space x", NoSymbol},
-        {"\xE9t\xE9", "\xE9t\xE9", NoSymbol},
+        {"R&&D", "RD", XK_VoidSymbol},
+        {"&&D", "D", XK_VoidSymbol},
+        {"Last&", "Last", XK_VoidSymbol},
+        {"&-Dash", "-Dash", XK_VoidSymbol},
+        {"& Space &x", " Space x", XK_VoidSymbol},
+        {"\xE9t\xE9", "\xE9t\xE9", XK_VoidSymbol},
     };
     ASSERT_EQ(guiCreatePopMenu(), 1);
     for (const auto& [name, label, mnemonic] : rows) {
@@ -152,15 +144,10 @@ GUI_TEST(PopupBuild, NothingHappensWithoutAMenu)
     EXPECT_TRUE(errorsDuring(expectNoPopup).empty()) << "never created";
     EXPECT_EQ(runPopup(picking("Two")), 2);
     EXPECT_TRUE(errorsDuring(expectNoPopup).empty()) << "shown already";
-    EXPECT_TRUE(recorder.events(GUI_EVENT_COMMAND).empty());
-}
-
-// It went with the dialog.
-GUI_TEST(PopupBuild, NothingHappensWhenTheWindowOfTheMenuIsGone)
-{
     runDialog([] { guiButton(1, 0, 0, 60, "Button", 0); }, [](Shown) { buildPopup(); });
     ASSERT_TRUE(isPopupGone());
-    EXPECT_TRUE(errorsDuring(expectNoPopup).empty());
+    EXPECT_TRUE(errorsDuring(expectNoPopup).empty()) << "gone with its dialog";
+    EXPECT_TRUE(recorder.events(GUI_EVENT_COMMAND).empty());
 }
 
 GUI_STARTUP_TEST(PopupBuild, NeedsATopWindow)

@@ -11,7 +11,7 @@ using ::testing::IsEmpty;
 
 namespace {
 
-constexpr int kEdit = 1, kCombo = 2, kReadOnlyEdit = 3, kReadOnlyText = 4;
+constexpr int kEdit = 1, kCombo = 2, kReadOnlyEdit = 3, kReadOnlyText = 4, kCheck = 5;
 
 constexpr char kWords[] = "Hello world";
 
@@ -22,6 +22,7 @@ void build()
     guiText(kText, 2, 3, 0, 100, 0);
     guiEdit(kReadOnlyEdit, 5, 0, 100, 0, 1);
     guiText(kReadOnlyText, 6, 3, 0, 100, 1);
+    guiCheck(kCheck, 9, 0, 100, "Check");
 }
 
 // The text itself, where the user clicks.
@@ -164,7 +165,7 @@ GUI_TEST(EditMenu, ActsOnTheOutputArea)
                             {"Cut", false, {kWords, "", "Clip"}},
                             {"Copy", true, {kWords, "Hello", "Hello"}},
                             {"Copy", false, {kWords, "", "Clip"}},
-                            {"Clear", true, {"", "", "Clip"}},
+                            {"Clear", true, {" world", "", "Clip"}},
                             {"Clear", false, {"", "", "Clip"}},
                             {"Select All", true, {kWords, kWords, "Clip"}},
                             {"Select All", false, {kWords, kWords, "Clip"}},
@@ -263,43 +264,42 @@ GUI_TEST(EditMenu, IsUsedByKeyboard)
 // The events of the changes, and none of the menu.
 GUI_TEST(EditMenu, ChangesAreReported)
 {
-    const auto eventsOf = [](int id, const char* label) {
-        prepare(fieldOf(id));
+    const auto eventsOf = [](int id, const char* label, bool isSelected = true) {
+        prepare(fieldOf(id), isSelected);
         return eventsDuring([&] { choose(fieldOf(id), label); });
     };
     const auto changed = [](int id, int a) { return toDialog(GUI_EVENT_TEXT_CHANGED, id, a); };
     runDialog(build, [&](Shown) {
-        ASSERT_TRUE(hasFocus(kEdit));
+        guiSetFocus(kCheck);
+        settle();
         EXPECT_THAT(eventsOf(kEdit, "Cut"), ElementsAre(changed(kEdit, 1)));
         EXPECT_THAT(eventsOf(kEdit, "Clear"), ElementsAre(changed(kEdit, 1)));
-        EXPECT_THAT(eventsOf(kEdit, "Copy"), IsEmpty());
-        EXPECT_THAT(eventsOf(kEdit, "Select All"), IsEmpty());
-        EXPECT_THAT(eventsDuring([&] { choose(fieldOf(kEdit), "Clear"); }),
-                    ElementsAre(changed(kEdit, 0)))
-            << "all was selected";
+        EXPECT_THAT(eventsOf(kEdit, "Clear", false), ElementsAre(changed(kEdit, 0)));
+        EXPECT_THAT(eventsOf(kEdit, "Paste", false), ElementsAre(changed(kEdit, 1)));
         EXPECT_THAT(eventsOf(kCombo, "Cut"), ElementsAre(changed(kCombo, 0)));
         EXPECT_THAT(eventsOf(kCombo, "Clear"), ElementsAre(changed(kCombo, 0)));
+        EXPECT_THAT(eventsOf(kCombo, "Paste", false), ElementsAre(changed(kCombo, 0)));
         EXPECT_THAT(eventsOf(kText, "Cut"), ElementsAre(cursorAt(kText, 0, 0)));
         EXPECT_THAT(eventsOf(kText, "Clear"), ElementsAre(cursorAt(kText, 0, 0)));
-        EXPECT_THAT(eventsOf(kText, "Copy"), IsEmpty());
-        choose(fieldOf(kText), "Select All");
-        EXPECT_THAT(eventsDuring([&] { choose(fieldOf(kText), "Clear"); }),
-                    ElementsAre(cursorAt(kText, -1, 0)));
-        EXPECT_TRUE(hasFocus(kEdit)) << "the keyboard stays";
+        EXPECT_THAT(eventsOf(kText, "Clear", false), ElementsAre(cursorAt(kText, -1, 0)));
+        EXPECT_THAT(only(GUI_EVENT_CURSOR, eventsOf(kText, "Paste", false)), ::testing::SizeIs(1));
+        for (const int id : {kEdit, kCombo, kReadOnlyEdit})
+            for (const char* const label : {"Copy", "Select All"})
+                EXPECT_THAT(eventsOf(id, label), IsEmpty()) << id << label;
+        EXPECT_TRUE(hasFocus(kCheck)) << "the keyboard stays";
     });
 }
 
-// One for what is removed, one for what is inserted.
-GUI_TEST(EditMenu, PastingIsReportedAsTheChangesThatItMakes)
+// The menu takes the keyboard and gives it back, as boxes do.
+GUI_TEST(EditMenu, IsALeavingOfTheEditThatHasTheKeyboard)
 {
-    runDialog(build, [&](Shown) {
-        for (const int id : std::initializer_list<int>{kEdit, kCombo, kText}) {
-            SCOPED_TRACE(id);
-            prepare(fieldOf(id), false);
-            const std::vector<Event> events = eventsDuring([&] { choose(fieldOf(id), "Paste"); });
-            ASSERT_EQ(events.size(), 1U);
-            EXPECT_EQ(events[0].event, id == kText ? GUI_EVENT_CURSOR : GUI_EVENT_TEXT_CHANGED);
-            EXPECT_EQ(events[0].id, id);
-        }
+    runDialog(build, [&](Shown dialog) {
+        ASSERT_TRUE(hasFocus(kEdit));
+        prepare(fieldOf(kEdit));
+        EXPECT_THAT(eventsDuring([&] { choose(fieldOf(kEdit), "Cut"); }),
+                    ElementsAre(leftBehind(kEdit), toDialog(GUI_EVENT_TEXT_CHANGED, kEdit, 1)));
+        EXPECT_TRUE(hasFocus(kEdit));
+        dialog.type("!");
+        EXPECT_EQ(textOf(fieldOf(kEdit)).size(), 7U) << "it has the keyboard again";
     });
 }

@@ -94,14 +94,11 @@ GUI_TEST(PopupPlace, IsThePointerWithoutAPlaceFromOneOn)
     runDialog(buildDialogOfKinds, [](Shown) { expectPointerPlaces(); });
 }
 
-GUI_STARTUP_TEST(PopupPlace, IsInDialogUnitsBeforeTheFirstDialogAsWell)
-{
-    inLargeFont([] { expectPlaces(); });
-}
-
+// Before the first dialog, in it, and behind it.
 GUI_STARTUP_TEST(PopupPlace, IsInDialogUnitsFromTheCornerOfTheTopWindow)
 {
     inLargeFont([] {
+        expectPlaces();
         runDialog(buildDialogOfKinds, [](Shown dialog) {
             EXPECT_NE(topCorner(), rectOf(findWidget("v_mainwnd")).corner());
             EXPECT_EQ(topCorner(), rectOf(dialog.widget()).corner());
