@@ -193,7 +193,7 @@ GUI_TEST(Context, IsNotRaisedByOtherButtonsAndKinds)
     runBuilt(use, fill);
 }
 
-GUI_TEST(Context, IsNotRaisedByDisabledControls)
+GUI_TEST(Context, IsNotRaisedByDisabledAndAnonymousControls)
 {
     const std::initializer_list<int> all = {kButton, kCheck, kRadio,  kChoice,
                                             kList,   kTree,  kSlider, kSpin};
@@ -211,10 +211,8 @@ GUI_TEST(Context, IsNotRaisedByDisabledControls)
         [&] {
             for (const int id : all) guiEnable(id, 0);
         });
-}
 
-GUI_TEST(Context, IsNotRaisedByAnonymousControls)
-{
+    recorder.forgetReactions();
     std::vector<Widget> anonymous;
     runDialog(
         [&] {

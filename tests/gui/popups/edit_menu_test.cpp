@@ -132,11 +132,8 @@ GUI_TEST(EditMenu, ActsOnTextsOfDialogs)
             expectChoices(fieldOf(id), choices);
         }
     });
-}
 
-// guiCopyText ends the line.
-GUI_TEST(EditMenu, PastesIntoTextsOfDialogs)
-{
+    // guiCopyText ends the line.
     runDialog(build, [&](Shown) {
         EXPECT_EQ(outcomeOf(fieldOf(kText), "Paste", true).text, "Clip\n world");
         EXPECT_EQ(outcomeOf(fieldOf(kText), "Paste", false).text, "HelloClip\n world");

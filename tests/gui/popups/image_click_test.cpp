@@ -43,7 +43,7 @@ void runBuilt(const std::function<void()>& use)
 
 }  // namespace
 
-GUI_TEST(ImageClick, TellsThePlace)
+GUI_TEST(ImageClick, TellsThePlaceInsideTheFrame)
 {
     runBuilt([] {
         const Rect image = rectOf(controlOf(kPlain));
@@ -53,10 +53,7 @@ GUI_TEST(ImageClick, TellsThePlace)
                 EXPECT_THAT(eventsOfClick(kPlain, place, button),
                             ElementsAre(clicked(button, kPlain, place.x, place.y)));
     });
-}
 
-GUI_TEST(ImageClick, TellsThePlaceInsideTheFrame)
-{
     runBuilt([] {
         const Rect image = rectOf(controlOf(kFramed));
         const Point far{image.width - 1, image.height - 1};

@@ -41,10 +41,10 @@ GUI_TEST(PopupWait, MayEndWithinThatOfAnother)
     const int outer = runPopup([&](Shown menu) {
         soon(showInner);
         EXPECT_TRUE(pumpUntil([&] { return inner != -5; }));
-        if (isShown(menu.widget())) dismiss(menu);
+        picking("Two")(menu);
     });
     EXPECT_EQ(inner, 2);
-    EXPECT_EQ(outer, 0);
+    EXPECT_EQ(outer, 2);
     EXPECT_TRUE(isPopupGone());
     EXPECT_EQ(runPopup(picking("Three")), 3) << "and the next one";
 }
@@ -120,20 +120,35 @@ GUI_TEST(PopupWait, MayBeInTheHandlerOfAMouseButton)
     EXPECT_TRUE(isPopupGone());
 }
 
-// The box comes up over the menu, which the user dismisses before the box can be answered.
-GUI_TEST(PopupWait, LastsAsLongAsABoxThatATimerShows)
+// The menu has held mouse and keyboard, which the box and the dialog need.
+GUI_TEST(PopupWait, EndsWhenABoxOrDialogComesUp)
 {
-    bool isAnswered = false;
-    EXPECT_EQ(runPopup([&](Shown menu) {
-                  app.whenShown("v_infobox", [&](Shown box) {
-                      if (isShown(menu.widget())) dismiss(menu);
-                      box.click("OK");
-                  });
-                  soon([&] {
-                      guiInfoBox("The time is up");
-                      isAnswered = true;
-                  });
-                  EXPECT_TRUE(pumpUntil([&] { return isAnswered; }));
-              }),
-              0);
+    int result = -5;
+    const auto resultOf = [&](const std::function<void()>& show) {
+        result = -5;
+        return runPopup([&](Shown menu) {
+            soon([&] { show(); });
+            EXPECT_TRUE(pumpUntil([&] { return result != -5; }));
+            EXPECT_FALSE(isShown(menu.widget()));
+        });
+    };
+    const auto showBox = [&] {
+        app.whenShown("v_askbox", [](Shown box) { box.click("No"); });
+        result = guiYesNoBox("The time is up. Go on?");
+    };
+    const auto showDialog = [&] {
+        ASSERT_EQ(guiDialog(""), 0);
+        buildDialog();
+        app.whenShown("v_dlgbbr", [](Shown dialog) {
+            dialog.type("typed");
+            EXPECT_EQ(textOf(controlOf(1)), "typed");
+            guiClose(4);
+        });
+        result = guiRunDialog(recorder.dialogHandler());
+    };
+    EXPECT_EQ(resultOf(showBox), 0);
+    EXPECT_EQ(result, 0);
+    EXPECT_EQ(resultOf(showDialog), 0);
+    EXPECT_EQ(result, 4);
+    EXPECT_EQ(runPopup(picking("Two")), 2) << "the next one";
 }

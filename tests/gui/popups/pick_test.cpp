@@ -41,10 +41,8 @@ GUI_TEST(PopupPick, ByEitherMouseButtonIsTheNumberOfTheItem)
         EXPECT_TRUE(isPopupGone());
     }
     EXPECT_THAT(recorder.events(), IsEmpty()) << "items are no commands";
-}
 
-GUI_TEST(PopupPick, ByDraggingIsTheItemOfTheRelease)
-{
+    // The item of the release.
     for (const unsigned button : {LeftButton, RightButton})
         EXPECT_EQ(runSeparated([&](Shown menu) {
                       const auto place = [&](const char* label) {
@@ -103,7 +101,7 @@ GUI_TEST(PopupPick, IsNothingWhenTheMenuIsDismissed)
 }
 
 // Mouse and keyboard are the frame's again.
-GUI_TEST(PopupPick, LeavesMouseAndKeyboardToTheOthers)
+GUI_TEST(PopupPick, LeavesMouseAndKeyboardToTheFrameAndToDialogs)
 {
     for (const auto& end : {picking("Two"), std::function<void(Shown)>{dismiss}}) {
         guiClearOutput();
@@ -112,10 +110,7 @@ GUI_TEST(PopupPick, LeavesMouseAndKeyboardToTheOthers)
         app.type("typed");
         EXPECT_EQ(textOf(app.find("v_text")), "typed");
     }
-}
 
-GUI_TEST(PopupPick, InADialogIsTheNumberAsWell)
-{
     runDialog([] { guiEdit(1, 0, 0, 60, 0, 0); },
               [](Shown dialog) {
                   EXPECT_EQ(runSeparated(picking("Three")), 3);
