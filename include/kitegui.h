@@ -454,8 +454,8 @@ KITEGUI_API int guiSepPopMenu(void);
 
 /*
  * Shows the menu and waits until the user has picked an item or dismissed the menu. Other events are delivered
- * meanwhile; a box or dialog that a handler shows then takes the menu down. Afterwards the menu does not exist any
- * more.
+ * meanwhile; a box, a dialog or another menu that a handler shows then takes this one down. Afterwards the menu
+ * does not exist any more.
  *
  *   x, y    from 1, in dialog units from the top window's corner; y counts rows of 14 units. The dialog's margin
  *           of 7 units comes on top. Where one of them is less than 1: at the pointer.
