@@ -184,7 +184,7 @@ GUI_TEST(Context, IsNotRaisedByOtherButtonsAndKinds)
                     }),
                     IsEmpty())
             << "a line";
-        for (const int id : std::initializer_list<int>{kButton, kCheck, kChoice, kList})
+        for (const int id : std::initializer_list<int>{kButton, kCheck, kRadio, kSpin})
             for (const unsigned button : {LeftButton, MiddleButton})
                 EXPECT_THAT(only(GUI_EVENT_CONTEXT, eventsOfClick(controlOf(id), {4, 4}, button)),
                             IsEmpty())
