@@ -109,7 +109,8 @@ enum {
                                     button, choice, tree, slider or spin box, x and y pixels from its corner
                                     (of a tree: from that of its items, however far they are scrolled), or on
                                     an image, inside its frame.
-                                    id, position from 1, 0: on a list, on the item at that position; 0 on none.
+                                    id, position from 1, 0: on a list, on the item at that position; below the
+                                    last one the position behind it, 0 on an empty list.
                                     Not raised by an anonymous slider or spin box */
     GUI_EVENT_HOVER = 63,        /* id, 0, 0: the pointer rested on a control for the hover delay */
     GUI_EVENT_SCROLLED = 64      /* id, first visible line from 0, 0: a list, text or tree was scrolled */
@@ -453,7 +454,8 @@ KITEGUI_API int guiSepPopMenu(void);
 
 /*
  * Shows the menu and waits until the user has picked an item or dismissed the menu. Other events are delivered
- * meanwhile. Afterwards the menu does not exist any more.
+ * meanwhile; a box, a dialog or another menu that a handler shows then takes this one down. Afterwards the menu
+ * does not exist any more.
  *
  *   x, y    from 1, in dialog units from the top window's corner; y counts rows of 14 units. The dialog's margin
  *           of 7 units comes on top. Where one of them is less than 1: at the pointer.
@@ -796,7 +798,7 @@ KITEGUI_API int guiRadio(int id, int row, int x, int width, const char *text);
 KITEGUI_API int guiLine(int id, int row, int rows, int x, int width);
 
 /*
- * A place for a picture (guiSetImage), rows * 14 - 2 units high. A click gives it the keyboard.
+ * A place for a picture (guiSetImage), rows * 14 - 2 units high. A click of button 1 gives it the keyboard.
  *
  *   framed  non-zero: with a shadow of two pixels
  */

@@ -126,8 +126,18 @@ Point placeOnScreen(const WidgetRef& top, const Place& place)
 
 // ---- while it is shown ----------------------------------------------------------------------
 
+Popup* waiting = nullptr;
+
+// The toolkit gives mouse and keyboard to one menu, and not back to the one before.
+void takeDown(const Popup* other)
+{
+    if (Widget const menu = other ? other->menu.get() : nullptr) XtUnmanageChild(menu);
+}
+
 int show(Popup& popup, Point place)
 {
+    takeDown(waiting);
+    Popup* const outer = std::exchange(waiting, &popup);
     Widget const menu = popup.menu.get();
     XButtonPressedEvent press{};
     press.x_root = place.x;
@@ -139,6 +149,7 @@ int show(Popup& popup, Point place)
     processEventsWhile(menu, [&] {
         return popup.result == Popup::kPending && popup.menu && XtIsManaged(popup.menu.get());
     });
+    waiting = outer;
     return popup.result == Popup::kPending ? 0 : popup.result;
 }
 
@@ -182,7 +193,7 @@ int guiSepPopMenu(void)
     return 0;
 }
 
-// A handler may build and show another one while this one waits.
+// A handler may build and show another one while this one waits, which ends the waiting.
 int guiShowPopMenu(int x, int y, int mode, int listId)
 {
     const std::unique_ptr<Popup> popup = std::move(current);

@@ -7,8 +7,9 @@ namespace kite {
 namespace {
 
 // Before the toolkit's own action, which moves the focus to what can have it.
-void pressed(Widget control, XtPointer, XEvent*, Boolean*)
+void pressed(Widget control, XtPointer, XEvent* event, Boolean*)
 {
+    if (event->xbutton.button != Button1) return;
     XtVaSetValues(control, XmNtraversalOn, True, nullptr);
     XmProcessTraversal(control, XmTRAVERSE_CURRENT);
 }

@@ -1,5 +1,6 @@
 #include "dialogs/mouse_buttons.h"
 
+#include <Xm/BulletinB.h>
 #include <Xm/ComboBox.h>
 #include <Xm/List.h>
 #include <Xm/Xm.h>
@@ -21,12 +22,12 @@ constexpr TypeSet kTellTheHost{ControlType::Button, ControlType::Check,  Control
                                ControlType::Choice, ControlType::List,   ControlType::Tree,
                                ControlType::Image,  ControlType::Slider, ControlType::Spin};
 
-// The control that a part belongs to; a scrolled one without its frame and scroll bars.
-Widget controlAround(Widget part)
+// The control that a part belongs to; a scrolled one without its frame and scroll bars. Parts of composed controls
+// may bear the tag of the whole.
+Widget controlAround(Widget part, ControlType type)
 {
     Widget control = part;
-    while (!Tag::of(control).isControl()) control = XtParent(control);
-    const ControlType type = Tag::of(control).type();
+    while (!XmIsBulletinBoard(XtParent(control))) control = XtParent(control);
     const bool isScrolled = type == ControlType::List || type == ControlType::Tree;
     return isScrolled ? resource<Widget>(control, XmNworkWindow) : control;
 }
@@ -52,7 +53,8 @@ void reportClickOnPicture(Widget image, int id, const XButtonEvent& event)
 
 void reportContext(Widget part, Tag tag, const XButtonEvent& event)
 {
-    Widget const control = controlAround(part);
+    Widget const control = controlAround(part, tag.type());
+    if (!XtIsSensitive(control)) return;  // around the items of a tree it is not known
     const Point place = placeIn(control, part, event);
     if (tag.type() == ControlType::List)
         raise(GUI_EVENT_CONTEXT, tag.id(), XmListYToPos(control, static_cast<Position>(place.y)));
