@@ -7,6 +7,7 @@
 #include <csignal>
 #include <cstdio>
 #include <initializer_list>
+#include <string_view>
 
 #ifndef __SANITIZE_ADDRESS__
 namespace {
@@ -28,11 +29,19 @@ __attribute__((constructor)) void catchCrashes()
 }  // namespace
 #endif
 
+// A menu comes up without the keyboard when another program has it just then, as the window manager while a key of
+// its own is held. That is no mistake of anybody's.
+static bool isToBeTold(const char* text)
+{
+    return std::string_view{text}.find("XtGrabKeyboard failed") == std::string_view::npos;
+}
+
 extern "C" {
 
 void XtAppWarningMsg(XtAppContext, _Xconst _XtString name, _Xconst _XtString type,
                      _Xconst _XtString, _Xconst _XtString text, String*, Cardinal*)
 {
+    if (!isToBeTold(text)) return;
     std::fprintf(stderr, "Toolkit warning %s, %s: %s\n", name, type, text);
 }
 

@@ -70,18 +70,21 @@ void TourUnderTest::expectCleanEnd()
 // Escape cancels menus, boxes and dialogs; the frame asks whether to leave, and Return agrees.
 bool TourUnderTest::leave()
 {
-    constexpr int kMostTries = 60;
+    constexpr int kMostTries = 20;
+    constexpr int kDeepest = 5;
     constexpr milliseconds kPause{150};
-    for (int i = 0; i < kMostTries && isRunning(); ++i) {
-        Robot::instance().key(XK_Escape);
+    const auto press = [&](KeySym symbol) {
+        Robot::instance().key(symbol);
         process_->wait(kPause);
+    };
+    for (int i = 0; i < kMostTries && isRunning(); ++i) {
+        for (int window = 0; window < kDeepest; ++window) press(XK_Escape);
         if (isViewable(frame_))
             wm::requestClose(frame_);
         else
             wm::deiconify(frame_);
         process_->wait(kPause);
-        Robot::instance().key(XK_Return);
-        process_->wait(kPause);
+        press(XK_Return);
     }
     return !isRunning();
 }
