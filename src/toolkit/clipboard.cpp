@@ -29,6 +29,15 @@ int untilUnlocked(Call call)
     return status;
 }
 
+// To the toolkit we have what we had until it has seen the event of the loss, and then asks us instead of the new
+// owner.
+void hearOfLosses(Display* display)
+{
+    XSync(display, False);
+    XEvent event;
+    while (XCheckTypedEvent(display, SelectionClear, &event)) XtDispatchEvent(&event);
+}
+
 }  // namespace
 
 Clipboard::Clipboard(Widget widget)
@@ -85,6 +94,7 @@ TextCopy Clipboard::textIn(const char* format)
 
 TextCopy Clipboard::text(std::initializer_list<const char*> formats)
 {
+    hearOfLosses(display_);
     untilUnlocked([&] {
         return XmClipboardStartRetrieve(display_, window_, XtLastTimestampProcessed(display_));
     });
