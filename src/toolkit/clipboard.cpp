@@ -50,10 +50,12 @@ Clipboard::Clipboard(Widget widget)
 }
 
 // All levels of the lock: where another client has no text in a format, asking for its length leaves one locked.
+// Others shall know at once, however long the handler goes on.
 Clipboard::~Clipboard()
 {
     if (!display_) return;
     XmClipboardUnlock(display_, window_, True);
+    XFlush(display_);
     isInUse = false;
 }
 

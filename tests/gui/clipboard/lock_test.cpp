@@ -1,5 +1,7 @@
 // Another client that keeps the clipboard locked: every call waits until it lets go.
 
+#include <sys/wait.h>
+
 #include <chrono>
 
 #include "text_kinds.h"
@@ -87,4 +89,21 @@ GUI_TEST(ClipboardLock, OfAClientThatDiesIsReleased)
     guiCopyText("abc");
     EXPECT_EQ(pastedByXclip(), "abc\n");
     EXPECT_TRUE(isClipboardFree());
+}
+
+// Also while a handler goes on without letting events pass.
+GUI_TEST(ClipboardLock, OfTheLibraryEndsWithTheCall)
+{
+    Widget const output = app.find("v_text");
+    guiWriteText("output");
+    const std::function<void()> calls[] = {
+        [] { guiCopyText("a"); }, [] { guiCopyAppText("b"); }, [] { EXPECT_EQ(guiClipLines(), 2); },
+        [] { EXPECT_EQ(clipLine(1), "a"); }, [&] { guiPasteSel(output); }};
+    for (const auto& call : calls) {
+        call();
+        Process client{{KITE_CLIPBOARD_CLIENT, "try-lock"}};
+        siginfo_t ended{};
+        ASSERT_EQ(waitid(P_PID, static_cast<id_t>(client.pid()), &ended, WEXITED | WNOWAIT), 0);
+        EXPECT_EQ(ended.si_status, 0);
+    }
 }
