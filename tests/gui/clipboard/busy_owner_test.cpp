@@ -23,59 +23,61 @@ void expectNothingThere(Widget text)
 
 }  // namespace
 
-GUI_TEST(BusyOwner, ThatIsFrozenHasNothing)
+GUI_TEST(BusyOwner, ThatDoesNotAnswerHasNothing)
 {
-    setSelectionPatience(milliseconds{150});
-    Client client{{"own", "STRING", "abc"}};
-    client->send(SIGSTOP);
-    expectNothingThere(app.find("v_text"));
-    EXPECT_TRUE(isClipboardFree());
-    guiCopyAppText("x");
-    EXPECT_EQ(pastedByXclip(), "x\n");
-    EXPECT_TRUE(isClipboardFree());
-    client->send(SIGCONT);
-}
-
-GUI_TEST(BusyOwner, ThatDiesWhenItIsAskedHasNothing)
-{
-    setSelectionPatience(milliseconds{300});
-    Widget const output = app.find("v_text");
-    const std::function<void()> calls[] = {[] { EXPECT_EQ(guiClipLines(), 0); },
-                                           [] { EXPECT_EQ(clipLine(1), "[0]"); },
-                                           [&] {
-                                               guiPasteSel(output);
-                                               EXPECT_EQ(textOf(output), "");
-                                           },
-                                           [] {
-                                               guiCopyAppText("x");
-                                               EXPECT_EQ(pastedByXclip(), "x\n");
-                                           }};
-    for (const auto& call : calls) {
-        Client client{{"own-and-die", "STRING", "abc"}};
-        call();
-        EXPECT_TRUE(client->wait());
+    // That is frozen has nothing.
+    {
+        setSelectionPatience(milliseconds{150});
+        Client client{{"own", "STRING", "abc"}};
+        client->send(SIGSTOP);
+        expectNothingThere(app.find("v_text"));
         EXPECT_TRUE(isClipboardFree());
+        guiCopyAppText("x");
+        EXPECT_EQ(pastedByXclip(), "x\n");
+        EXPECT_TRUE(isClipboardFree());
+        client->send(SIGCONT);
     }
-}
 
-// It has told the length, and then has nothing to give.
-GUI_TEST(BusyOwner, ThatLosesItsTextMeanwhileHasNothing)
-{
-    Widget const output = app.find("v_text");
-    const std::function<void()> calls[] = {[] { EXPECT_EQ(guiClipLines(), 0); },
-                                           [] { EXPECT_EQ(clipLine(1), "[0]"); },
-                                           [&] {
-                                               guiPasteSel(output);
-                                               EXPECT_EQ(textOf(output), "");
-                                           },
-                                           [] {
-                                               guiCopyAppText("x");
-                                               EXPECT_EQ(pastedByXclip(), "x\n");
-                                           }};
-    for (const auto& call : calls) {
-        const Client client{{"own-and-clear", "STRING", "abc"}};
-        call();
-        EXPECT_TRUE(isClipboardFree());
+    // That dies when it is asked has nothing.
+    {
+        setSelectionPatience(milliseconds{300});
+        Widget const output = app.find("v_text");
+        const std::function<void()> calls[] = {[] { EXPECT_EQ(guiClipLines(), 0); },
+                                               [] { EXPECT_EQ(clipLine(1), "[0]"); },
+                                               [&] {
+                                                   guiPasteSel(output);
+                                                   EXPECT_EQ(textOf(output), "");
+                                               },
+                                               [] {
+                                                   guiCopyAppText("x");
+                                                   EXPECT_EQ(pastedByXclip(), "x\n");
+                                               }};
+        for (const auto& call : calls) {
+            Client client{{"own-and-die", "STRING", "abc"}};
+            call();
+            EXPECT_TRUE(client->wait());
+            EXPECT_TRUE(isClipboardFree());
+        }
+    }
+
+    // It has told the length, and then has nothing to give.
+    {
+        Widget const output = app.find("v_text");
+        const std::function<void()> calls[] = {[] { EXPECT_EQ(guiClipLines(), 0); },
+                                               [] { EXPECT_EQ(clipLine(1), "[0]"); },
+                                               [&] {
+                                                   guiPasteSel(output);
+                                                   EXPECT_EQ(textOf(output), "");
+                                               },
+                                               [] {
+                                                   guiCopyAppText("x");
+                                                   EXPECT_EQ(pastedByXclip(), "x\n");
+                                               }};
+        for (const auto& call : calls) {
+            const Client client{{"own-and-clear", "STRING", "abc"}};
+            call();
+            EXPECT_TRUE(isClipboardFree());
+        }
     }
 }
 

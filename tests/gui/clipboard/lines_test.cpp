@@ -10,37 +10,50 @@ const std::string kUntouched(20, '#');
 
 }  // namespace
 
-GUI_TEST(ClipboardLine, IsCopiedWithItsLineEndAndReadWithoutIt)
+GUI_TEST(ClipboardLine, IsCopiedAsTheBytesThatItIs)
 {
-    guiCopyText("abc");
-    EXPECT_EQ(guiClipLines(), 1);
-    EXPECT_EQ(clipLine(1), "abc");
-    EXPECT_EQ(clipLine(2), "[-1]");
-    EXPECT_EQ(clipLine(0), "[-1]");
-    EXPECT_EQ(pastedByXclip(), "abc\n");
+    // Is copied with its line end and read without it.
+    {
+        guiCopyText("abc");
+        EXPECT_EQ(guiClipLines(), 1);
+        EXPECT_EQ(clipLine(1), "abc");
+        EXPECT_EQ(clipLine(2), "[-1]");
+        EXPECT_EQ(clipLine(0), "[-1]");
+        EXPECT_EQ(pastedByXclip(), "abc\n");
 
-    // It takes the place of what is there.
-    guiCopyText("d");
-    EXPECT_EQ(pastedByXclip(), "d\n");
+        // It takes the place of what is there.
+        guiCopyText("d");
+        EXPECT_EQ(pastedByXclip(), "d\n");
 
-    // An empty one is one too.
-    guiCopyText("");
-    EXPECT_EQ(guiClipLines(), 1);
-    EXPECT_EQ(clipLine(1), "[0]");
-    EXPECT_EQ(clipLine(2), "[-1]");
-    EXPECT_EQ(pastedByXclip(), "\n");
+        // An empty one is one too.
+        guiCopyText("");
+        EXPECT_EQ(guiClipLines(), 1);
+        EXPECT_EQ(clipLine(1), "[0]");
+        EXPECT_EQ(clipLine(2), "[-1]");
+        EXPECT_EQ(pastedByXclip(), "\n");
 
-    // One with line ends is several.
-    guiCopyText("a\n\nb");
-    EXPECT_EQ(guiClipLines(), 3);
-    EXPECT_EQ(clipLine(2), "[0]");
-    EXPECT_EQ(clipLine(3), "b");
+        // One with line ends is several.
+        guiCopyText("a\n\nb");
+        EXPECT_EQ(guiClipLines(), 3);
+        EXPECT_EQ(clipLine(2), "[0]");
+        EXPECT_EQ(clipLine(3), "b");
 
-    // Null changes nothing.
-    guiCopyText(nullptr);
-    guiCopyAppText(nullptr);
-    EXPECT_EQ(pastedByXclip(), "a\n\nb\n");
-    EXPECT_TRUE(isClipboardFree());
+        // Null changes nothing.
+        guiCopyText(nullptr);
+        guiCopyAppText(nullptr);
+        EXPECT_EQ(pastedByXclip(), "a\n\nb\n");
+        EXPECT_TRUE(isClipboardFree());
+    }
+
+    // Is the bytes that it is.
+    {
+        const std::string bytes = "\xe4\xc3\xa4\x01\xff";
+        guiCopyText(bytes.c_str());
+        EXPECT_EQ(pastedByXclip(), bytes + '\n');
+        EXPECT_EQ(clipLine(1), bytes);
+        guiCopyAppText(bytes.c_str());
+        EXPECT_EQ(pastedByXclip(), bytes + '\n' + bytes + '\n');
+    }
 }
 
 GUI_TEST(ClipboardLine, OfAnEmptyClipboardIsNone)
@@ -92,48 +105,41 @@ GUI_TEST(ClipboardLine, CountsAndStartsByLineEnds)
     }
 }
 
-GUI_TEST(ClipboardLine, IsCutToTheBuffer)
+GUI_TEST(ClipboardLine, IsReadIntoABuffer)
 {
-    guiCopyText("abcdef\nxyz");
-    for (const int size : {2, 3, 6, 7, 8}) {
+    // Is cut to the buffer.
+    {
+        guiCopyText("abcdef\nxyz");
+        for (const int size : {2, 3, 6, 7, 8}) {
+            std::string buffer = kUntouched;
+            const std::string expected =
+                std::string{"abcdef"}.substr(0, static_cast<std::size_t>(size - 1));
+            EXPECT_EQ(guiPasteText(buffer.data(), size, 1), static_cast<int>(expected.size()));
+            EXPECT_STREQ(buffer.c_str(), expected.c_str());
+            EXPECT_EQ(buffer.substr(expected.size() + 1), kUntouched.substr(expected.size() + 1))
+                << size;
+        }
+    }
+
+    // Needs a buffer.
+    {
+        constexpr char kMessage[] = "GetClipLine: invalid buffer";
         std::string buffer = kUntouched;
-        const std::string expected =
-            std::string{"abcdef"}.substr(0, static_cast<std::size_t>(size - 1));
-        EXPECT_EQ(guiPasteText(buffer.data(), size, 1), static_cast<int>(expected.size()));
-        EXPECT_STREQ(buffer.c_str(), expected.c_str());
-        EXPECT_EQ(buffer.substr(expected.size() + 1), kUntouched.substr(expected.size() + 1))
-            << size;
+        for (const bool isFull : {false, true}) {
+            if (isFull) guiCopyText("abc");
+            for (const int size : {1, 0, -1})
+                EXPECT_MISUSE(guiPasteText(buffer.data(), size, 1), kMessage, -1);
+            EXPECT_MISUSE(guiPasteText(nullptr, 10, 1), kMessage, -1);
+            EXPECT_MISUSE(guiPasteText(nullptr, 10, -1), kMessage, -1);
+            EXPECT_MISUSE(guiPasteText(buffer.data(), 1, -1), kMessage, -1);
+        }
+        EXPECT_EQ(buffer, kUntouched);
+
+        // A line that there is not empties it.
+        EXPECT_EQ(guiPasteText(buffer.data(), 20, -1), -1);
+        EXPECT_EQ(buffer, '\0' + kUntouched.substr(1));
+        buffer = kUntouched;
+        EXPECT_EQ(guiPasteText(buffer.data(), 20, 2), -1);
+        EXPECT_EQ(buffer, '\0' + kUntouched.substr(1));
     }
-}
-
-GUI_TEST(ClipboardLine, NeedsABuffer)
-{
-    constexpr char kMessage[] = "GetClipLine: invalid buffer";
-    std::string buffer = kUntouched;
-    for (const bool isFull : {false, true}) {
-        if (isFull) guiCopyText("abc");
-        for (const int size : {1, 0, -1})
-            EXPECT_MISUSE(guiPasteText(buffer.data(), size, 1), kMessage, -1);
-        EXPECT_MISUSE(guiPasteText(nullptr, 10, 1), kMessage, -1);
-        EXPECT_MISUSE(guiPasteText(nullptr, 10, -1), kMessage, -1);
-        EXPECT_MISUSE(guiPasteText(buffer.data(), 1, -1), kMessage, -1);
-    }
-    EXPECT_EQ(buffer, kUntouched);
-
-    // A line that there is not empties it.
-    EXPECT_EQ(guiPasteText(buffer.data(), 20, -1), -1);
-    EXPECT_EQ(buffer, '\0' + kUntouched.substr(1));
-    buffer = kUntouched;
-    EXPECT_EQ(guiPasteText(buffer.data(), 20, 2), -1);
-    EXPECT_EQ(buffer, '\0' + kUntouched.substr(1));
-}
-
-GUI_TEST(ClipboardLine, IsTheBytesThatItIs)
-{
-    const std::string bytes = "\xe4\xc3\xa4\x01\xff";
-    guiCopyText(bytes.c_str());
-    EXPECT_EQ(pastedByXclip(), bytes + '\n');
-    EXPECT_EQ(clipLine(1), bytes);
-    guiCopyAppText(bytes.c_str());
-    EXPECT_EQ(pastedByXclip(), bytes + '\n' + bytes + '\n');
 }

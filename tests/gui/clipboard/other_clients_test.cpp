@@ -56,58 +56,60 @@ GUI_TEST(ClipboardClients, ReadWhatWasCopied)
     EXPECT_THAT(clipboardProperties(), HasSubstr("guiCopyText"));
 }
 
-GUI_TEST(ClipboardClients, AreReadAsPlainText)
+GUI_TEST(ClipboardClients, AreRead)
 {
-    for (const auto& command : {kXclip, kXsel}) {
-        SCOPED_TRACE(command[0]);
-        const Owner owner{command, "one\ntwo"};
-        EXPECT_EQ(guiClipLines(), 2);
-        EXPECT_EQ(clipLine(1), "one");
-        EXPECT_EQ(clipLine(2), "two");
-        guiCopyAppText("!");
-        EXPECT_EQ(pastedByXclip(), "one\ntwo!\n");
-    }
-}
-
-// STRING is asked for first.
-GUI_TEST(ClipboardClients, AreReadInTheFirstFormatThatHasText)
-{
-    struct {
-        std::vector<std::string> client;
-        int lines;
-        std::string first;
-    } const rows[] = {
-        {{"own", "STRING", "s", "COMPOUND_TEXT", "c\nc"}, 1, "s"},
-        {{"own", "COMPOUND_TEXT", "c\nd"}, 2, "c"},
-        {{"own", "STRING", "", "COMPOUND_TEXT", "c\nd"}, 2, "c"},
-        {{"own", "STRING", "", "COMPOUND_TEXT", ""}, 0, "[0]"},
-        {{"own", "COMPOUND_TEXT", ""}, 0, "[0]"},
-        {{"own", "UTF8_STRING", "u"}, 0, "[0]"},
-        {{"motif", "m\nn"}, 2, "m"},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(::testing::PrintToString(row.client));
-        const Client client{row.client};
-        EXPECT_EQ(guiClipLines(), row.lines);
-        EXPECT_TRUE(isClipboardFree());
-        EXPECT_EQ(clipLine(1), row.first);
-        EXPECT_TRUE(isClipboardFree());
-    }
-}
-
-GUI_TEST(ClipboardClients, AreAskedAgainEachTime)
-{
-    guiCopyText("ours");
+    // Are read as plain text.
     {
-        const Client client{{"own", "STRING", "theirs"}};
-        settle();
-        EXPECT_EQ(clipLine(1), "theirs");
-        guiCopyText("ours again");
-        EXPECT_EQ(clipLine(1), "ours again");
+        for (const auto& command : {kXclip, kXsel}) {
+            SCOPED_TRACE(command[0]);
+            const Owner owner{command, "one\ntwo"};
+            EXPECT_EQ(guiClipLines(), 2);
+            EXPECT_EQ(clipLine(1), "one");
+            EXPECT_EQ(clipLine(2), "two");
+            guiCopyAppText("!");
+            EXPECT_EQ(pastedByXclip(), "one\ntwo!\n");
+        }
     }
+
+    // STRING is asked for first.
     {
-        const Client client{{"own", "STRING", "theirs"}};
-        EXPECT_EQ(clipLine(1), "theirs") << "without an event in between";
+        struct {
+            std::vector<std::string> client;
+            int lines;
+            std::string first;
+        } const rows[] = {
+            {{"own", "STRING", "s", "COMPOUND_TEXT", "c\nc"}, 1, "s"},
+            {{"own", "COMPOUND_TEXT", "c\nd"}, 2, "c"},
+            {{"own", "STRING", "", "COMPOUND_TEXT", "c\nd"}, 2, "c"},
+            {{"own", "STRING", "", "COMPOUND_TEXT", ""}, 0, "[0]"},
+            {{"own", "COMPOUND_TEXT", ""}, 0, "[0]"},
+            {{"own", "UTF8_STRING", "u"}, 0, "[0]"},
+            {{"motif", "m\nn"}, 2, "m"},
+        };
+        for (const auto& row : rows) {
+            SCOPED_TRACE(::testing::PrintToString(row.client));
+            const Client client{row.client};
+            EXPECT_EQ(guiClipLines(), row.lines);
+            EXPECT_TRUE(isClipboardFree());
+            EXPECT_EQ(clipLine(1), row.first);
+            EXPECT_TRUE(isClipboardFree());
+        }
     }
-    EXPECT_TRUE(isClipboardFree());
+
+    // Are asked again each time.
+    {
+        guiCopyText("ours");
+        {
+            const Client client{{"own", "STRING", "theirs"}};
+            settle();
+            EXPECT_EQ(clipLine(1), "theirs");
+            guiCopyText("ours again");
+            EXPECT_EQ(clipLine(1), "ours again");
+        }
+        {
+            const Client client{{"own", "STRING", "theirs"}};
+            EXPECT_EQ(clipLine(1), "theirs") << "without an event in between";
+        }
+        EXPECT_TRUE(isClipboardFree());
+    }
 }

@@ -83,101 +83,117 @@ void expectLayout(Widget board)
 
 }  // namespace
 
-GUI_TEST(EditorLook, IsAModalBoxOfTheMainWindow)
+GUI_TEST(EditorLook, IsThatOfATextWithTwoButtons)
 {
-    editAndAccept([&](Shown box) {
-        EXPECT_TRUE(XtIsSubclass(box.shell(), xmDialogShellWidgetClass));
-        EXPECT_STREQ(XtName(box.shell()), "v_editorshell");
-        EXPECT_EQ(XtParent(box.shell()), app.find("v_mainwnd"));
-        EXPECT_EQ(XtParent(box.widget()), box.shell());
-        EXPECT_EQ(guiGetTopWnd(), box.widget());
-        EXPECT_EQ(wm::transientFor(box.widget()), windowOf(app.shell()));
-        EXPECT_TRUE(XtIsSubclass(box.widget(), xmBulletinBoardWidgetClass));
-        EXPECT_EQ(resource<unsigned char>(box.widget(), XmNdialogStyle),
-                  XmDIALOG_FULL_APPLICATION_MODAL);
-        EXPECT_FALSE(resource<Boolean>(box.widget(), XmNautoUnmanage));
-        EXPECT_TRUE(resource<Boolean>(box.widget(), XmNnoResize));
-        const auto hints = wm::itemsOf(windowOf(box.shell()), "_MOTIF_WM_HINTS");
-        ASSERT_THAT(hints, SizeIs(5));
-        EXPECT_EQ(hints[3], MWM_INPUT_FULL_APPLICATION_MODAL);
-        EXPECT_FALSE(hints[1] & (MWM_FUNC_ALL | MWM_FUNC_RESIZE));
-        EXPECT_THAT(wm::protocolsOf(box.widget()), Contains("WM_DELETE_WINDOW"));
-        EXPECT_EQ(resource<unsigned char>(box.shell(), XmNdeleteResponse), XmDO_NOTHING);
-    });
-    EXPECT_EQ(guiGetTopWnd(), app.find("v_mainwnd"));
-    EXPECT_FALSE(findWidget("v_editorshell"));
-}
+    // Is a modal box of the main window.
+    {
+        editAndAccept([&](Shown box) {
+            EXPECT_TRUE(XtIsSubclass(box.shell(), xmDialogShellWidgetClass));
+            EXPECT_STREQ(XtName(box.shell()), "v_editorshell");
+            EXPECT_EQ(XtParent(box.shell()), app.find("v_mainwnd"));
+            EXPECT_EQ(XtParent(box.widget()), box.shell());
+            EXPECT_EQ(guiGetTopWnd(), box.widget());
+            EXPECT_EQ(wm::transientFor(box.widget()), windowOf(app.shell()));
+            EXPECT_TRUE(XtIsSubclass(box.widget(), xmBulletinBoardWidgetClass));
+            EXPECT_EQ(resource<unsigned char>(box.widget(), XmNdialogStyle),
+                      XmDIALOG_FULL_APPLICATION_MODAL);
+            EXPECT_FALSE(resource<Boolean>(box.widget(), XmNautoUnmanage));
+            EXPECT_TRUE(resource<Boolean>(box.widget(), XmNnoResize));
+            const auto hints = wm::itemsOf(windowOf(box.shell()), "_MOTIF_WM_HINTS");
+            ASSERT_THAT(hints, SizeIs(5));
+            EXPECT_EQ(hints[3], MWM_INPUT_FULL_APPLICATION_MODAL);
+            EXPECT_FALSE(hints[1] & (MWM_FUNC_ALL | MWM_FUNC_RESIZE));
+            EXPECT_THAT(wm::protocolsOf(box.widget()), Contains("WM_DELETE_WINDOW"));
+            EXPECT_EQ(resource<unsigned char>(box.shell(), XmNdeleteResponse), XmDO_NOTHING);
+        });
+        EXPECT_EQ(guiGetTopWnd(), app.find("v_mainwnd"));
+        EXPECT_FALSE(findWidget("v_editorshell"));
+    }
 
-GUI_TEST(EditorLook, HasItsTitle)
-{
-    struct {
-        const char* given;
-        std::string shown;
-    } const rows[] = {
-        {"Letter", "Letter"}, {"", "Editor"}, {nullptr, "Editor"}, {"A: b, c (d)", "A: b, c (d)"}};
-    for (const auto& row : rows)
-        editAndAccept(
-            [&](Shown box) {
-                EXPECT_EQ(box.title(), row.shown);
-                EXPECT_EQ(toString(resource<XmString>(box.widget(), XmNdialogTitle)), row.shown);
-            },
-            row.given);
-}
+    // Has its title.
+    {
+        struct {
+            const char* given;
+            std::string shown;
+        } const rows[] = {{"Letter", "Letter"},
+                          {"", "Editor"},
+                          {nullptr, "Editor"},
+                          {"A: b, c (d)", "A: b, c (d)"}};
+        for (const auto& row : rows)
+            editAndAccept(
+                [&](Shown box) {
+                    EXPECT_EQ(box.title(), row.shown);
+                    EXPECT_EQ(toString(resource<XmString>(box.widget(), XmNdialogTitle)),
+                              row.shown);
+                },
+                row.given);
+    }
 
-GUI_TEST(EditorLook, HasItsParts)
-{
-    editAndAccept([&](Shown box) {
-        Widget const scrolled = box.child("v_scroll");
-        EXPECT_EQ(XtParent(scrolled), box.widget());
-        EXPECT_TRUE(XmIsScrolledWindow(scrolled));
-        EXPECT_EQ(dimension(scrolled, XmNshadowThickness), 0);
-        EXPECT_EQ(dimension(scrolled, XmNspacing), 0);
+    // Has its parts.
+    {
+        editAndAccept([&](Shown box) {
+            Widget const scrolled = box.child("v_scroll");
+            EXPECT_EQ(XtParent(scrolled), box.widget());
+            EXPECT_TRUE(XmIsScrolledWindow(scrolled));
+            EXPECT_EQ(dimension(scrolled, XmNshadowThickness), 0);
+            EXPECT_EQ(dimension(scrolled, XmNspacing), 0);
 
-        Widget const text = editorText();
-        EXPECT_EQ(XtParent(text), scrolled);
-        EXPECT_TRUE(XmIsText(text));
-        EXPECT_EQ(resource<int>(text, XmNeditMode), XmMULTI_LINE_EDIT);
-        EXPECT_TRUE(resource<Boolean>(text, XmNeditable));
-        EXPECT_EQ(dimension(text, XmNshadowThickness), 2);
-        EXPECT_EQ(dimension(text, XmNhighlightThickness), 0);
-        EXPECT_EQ(dimension(text, XmNmarginWidth), 3);
-        EXPECT_EQ(dimension(text, XmNmarginHeight), 1);
-        EXPECT_EQ(screen::colourOf(text, resource<Pixel>(text, XmNforeground)),
-                  screen::colourNamed("black"));
-        EXPECT_EQ(screen::colourOf(text, resource<Pixel>(text, XmNbackground)),
-                  screen::colourNamed("white"));
+            Widget const text = editorText();
+            EXPECT_EQ(XtParent(text), scrolled);
+            EXPECT_TRUE(XmIsText(text));
+            EXPECT_EQ(resource<int>(text, XmNeditMode), XmMULTI_LINE_EDIT);
+            EXPECT_TRUE(resource<Boolean>(text, XmNeditable));
+            EXPECT_EQ(dimension(text, XmNshadowThickness), 2);
+            EXPECT_EQ(dimension(text, XmNhighlightThickness), 0);
+            EXPECT_EQ(dimension(text, XmNmarginWidth), 3);
+            EXPECT_EQ(dimension(text, XmNmarginHeight), 1);
+            EXPECT_EQ(screen::colourOf(text, resource<Pixel>(text, XmNforeground)),
+                      screen::colourNamed("black"));
+            EXPECT_EQ(screen::colourOf(text, resource<Pixel>(text, XmNbackground)),
+                      screen::colourNamed("white"));
 
-        for (const char* const name : {XmNhorizontalScrollBar, XmNverticalScrollBar}) {
-            Widget const bar = resource<Widget>(scrolled, name);
-            ASSERT_TRUE(bar) << name;
-            EXPECT_EQ(dimension(bar, XmNshadowThickness), 2);
-            EXPECT_EQ(dimension(bar, XmNhighlightThickness), 0);
-            EXPECT_EQ(resource<Pixel>(bar, XmNforeground),
-                      resource<Pixel>(box.widget(), XmNforeground));
-            EXPECT_EQ(resource<Pixel>(bar, XmNbackground),
-                      resource<Pixel>(box.widget(), XmNbackground));
-            EXPECT_TRUE(isShown(bar));
-        }
+            for (const char* const name : {XmNhorizontalScrollBar, XmNverticalScrollBar}) {
+                Widget const bar = resource<Widget>(scrolled, name);
+                ASSERT_TRUE(bar) << name;
+                EXPECT_EQ(dimension(bar, XmNshadowThickness), 2);
+                EXPECT_EQ(dimension(bar, XmNhighlightThickness), 0);
+                EXPECT_EQ(resource<Pixel>(bar, XmNforeground),
+                          resource<Pixel>(box.widget(), XmNforeground));
+                EXPECT_EQ(resource<Pixel>(bar, XmNbackground),
+                          resource<Pixel>(box.widget(), XmNbackground));
+                EXPECT_TRUE(isShown(bar));
+            }
 
-        EXPECT_EQ(labelOf(box.child("v_okpbtn")), "OK");
-        EXPECT_EQ(labelOf(box.child("v_clpbtn")), "Cancel");
-        for (const char* const name : {"v_okpbtn", "v_clpbtn"}) {
-            Widget const button = box.child(name);
-            EXPECT_TRUE(XmIsPushButton(button));
-            EXPECT_EQ(dimension(button, XmNshadowThickness), 2);
-            EXPECT_EQ(dimension(button, XmNhighlightThickness), 1);
-            EXPECT_EQ(dimension(button, XmNdefaultButtonShadowThickness), 0);
-        }
-        EXPECT_EQ(resource<Widget>(box.widget(), XmNinitialFocus), scrolled);
-        EXPECT_EQ(resource<Widget>(box.widget(), XmNdefaultButton), box.child("v_okpbtn"));
-        EXPECT_EQ(resource<Widget>(box.widget(), XmNcancelButton), box.child("v_clpbtn"));
-    });
-}
+            EXPECT_EQ(labelOf(box.child("v_okpbtn")), "OK");
+            EXPECT_EQ(labelOf(box.child("v_clpbtn")), "Cancel");
+            for (const char* const name : {"v_okpbtn", "v_clpbtn"}) {
+                Widget const button = box.child(name);
+                EXPECT_TRUE(XmIsPushButton(button));
+                EXPECT_EQ(dimension(button, XmNshadowThickness), 2);
+                EXPECT_EQ(dimension(button, XmNhighlightThickness), 1);
+                EXPECT_EQ(dimension(button, XmNdefaultButtonShadowThickness), 0);
+            }
+            EXPECT_EQ(resource<Widget>(box.widget(), XmNinitialFocus), scrolled);
+            EXPECT_EQ(resource<Widget>(box.widget(), XmNdefaultButton), box.child("v_okpbtn"));
+            EXPECT_EQ(resource<Widget>(box.widget(), XmNcancelButton), box.child("v_clpbtn"));
+        });
+    }
 
-GUI_TEST(EditorLook, IsLaidOutFromItsSizeAndItsMargins)
-{
-    for (int time = 0; time < 2; ++time)
-        editAndAccept([](Shown box) { expectLayout(box.widget()); });
+    // Is laid out from its size and its margins.
+    {
+        for (int time = 0; time < 2; ++time)
+            editAndAccept([](Shown box) { expectLayout(box.widget()); });
+    }
+
+    // Has the fonts of the frame.
+    {
+        editAndAccept([&](Shown) {
+            EXPECT_EQ(fontOf(editorText()), fontOf(app.find("v_text")));
+            EXPECT_EQ(fontOf(findWidget("v_okpbtn")), fontOf(app.find("v_sline")));
+            EXPECT_EQ(fontOf(findWidget("v_clpbtn")), fontOf(app.find("v_sline")));
+            EXPECT_NE(fontOf(app.find("v_text")), fontOf(app.find("v_sline")));
+        });
+    }
 }
 
 // What Xt resources of the user ask for.
@@ -197,15 +213,5 @@ GUI_STARTUP_TEST(EditorLook, FollowsOtherMarginsAndFonts)
             for (const char* const name : {"v_mltext", "v_okpbtn", "v_clpbtn"})
                 EXPECT_EQ(fontOf(findWidget(name)), font) << name;
         });
-    });
-}
-
-GUI_TEST(EditorLook, HasTheFontsOfTheFrame)
-{
-    editAndAccept([&](Shown) {
-        EXPECT_EQ(fontOf(editorText()), fontOf(app.find("v_text")));
-        EXPECT_EQ(fontOf(findWidget("v_okpbtn")), fontOf(app.find("v_sline")));
-        EXPECT_EQ(fontOf(findWidget("v_clpbtn")), fontOf(app.find("v_sline")));
-        EXPECT_NE(fontOf(app.find("v_text")), fontOf(app.find("v_sline")));
     });
 }

@@ -26,25 +26,28 @@ std::vector<std::string> messagesOfOk(int pieces)
 
 }  // namespace
 
-GUI_TEST(EditorWithoutMemory, TakesNoLineAndKeepsTheOthers)
+GUI_TEST(EditorWithoutMemory, SaysSo)
 {
-    fillEditor({"one"});
-    const std::string line(kLargePiece, 'x');
+    // Takes no line and keeps the others.
     {
-        const HeapEnds heap;
-        EXPECT_MISUSE(guiEditorPutLine(line.c_str()), "EditorPutLine: out of memory", -1);
-        EXPECT_EQ(guiEditorPutLine("two"), 3);
+        fillEditor({"one"});
+        const std::string line(kLargePiece, 'x');
+        {
+            const HeapEnds heap;
+            EXPECT_MISUSE(guiEditorPutLine(line.c_str()), "EditorPutLine: out of memory", -1);
+            EXPECT_EQ(guiEditorPutLine("two"), 3);
+        }
+        EXPECT_EQ(guiEditorPutLine("three"), 5);
+        EXPECT_THAT(editorLines(), ElementsAre("one", "two", "three"));
     }
-    EXPECT_EQ(guiEditorPutLine("three"), 5);
-    EXPECT_THAT(editorLines(), ElementsAre("one", "two", "three"));
-}
 
-GUI_TEST(EditorWithoutMemory, CannotGiveTheTextBack)
-{
-    EXPECT_THAT(messagesOfOk(0), ElementsAre("EditBox: cannot retrieve text"));
-    EXPECT_EQ(nextEditorLine(), "[-1]");
-    EXPECT_EQ(guiGetTopWnd(), app.find("v_mainwnd"));
-    EXPECT_THAT(messagesOfOk(1), ElementsAre("EditBox: out of memory"));
-    EXPECT_EQ(nextEditorLine(), "[-1]");
-    EXPECT_FALSE(findWidget(kEditor));
+    // Cannot give the text back.
+    {
+        EXPECT_THAT(messagesOfOk(0), ElementsAre("EditBox: cannot retrieve text"));
+        EXPECT_EQ(nextEditorLine(), "[-1]");
+        EXPECT_EQ(guiGetTopWnd(), app.find("v_mainwnd"));
+        EXPECT_THAT(messagesOfOk(1), ElementsAre("EditBox: out of memory"));
+        EXPECT_EQ(nextEditorLine(), "[-1]");
+        EXPECT_FALSE(findWidget(kEditor));
+    }
 }

@@ -28,33 +28,64 @@ GUI_TEST(PrintCommand, IsTheDefaultOneUnlessTheUserHasAnother)
     EXPECT_THAT(host.profile().writes(), IsEmpty());
 }
 
-GUI_TEST(PrintCommand, IsAskedForEachTime)
+GUI_TEST(PrintCommand, HasTheUsersWords)
 {
-    using Kind = ProfileAccess::Kind;
-    host.profile().clearAccesses();
-    printed("file");
-    EXPECT_THAT(host.profile().accesses("landscape"),
-                ElementsAre(ProfileAccess{Kind::ReadInt, "kite", "landscape", 0}));
-    EXPECT_THAT(host.profile().accesses("lpcmd"),
-                ElementsAre(ProfileAccess{Kind::ReadString, "kite", "lpcmd", 1024}));
+    // Is asked for each time.
+    {
+        using Kind = ProfileAccess::Kind;
+        host.profile().clearAccesses();
+        printed("file");
+        EXPECT_THAT(host.profile().accesses("landscape"),
+                    ElementsAre(ProfileAccess{Kind::ReadInt, "kite", "landscape", 0}));
+        EXPECT_THAT(host.profile().accesses("lpcmd"),
+                    ElementsAre(ProfileAccess{Kind::ReadString, "kite", "lpcmd", 1024}));
+    }
+
+    // Takes no notice of the other arguments.
+    {
+        EXPECT_EQ(guiPrintFile("file", 1, 2, 3, -4, 5, 6, 0), 0);
+        EXPECT_EQ(guiPrintFile("file", -1, 99, INT_MAX, INT_MIN, 1, 1, -1), 0);
+        EXPECT_THAT(host.commands(), Each(ExecCall{"lp -c file", 1, 1}));
+        EXPECT_EQ(host.commands().size(), 3u);
+    }
+
+    // By a shell, as the host's own service runs it.
+    {
+        const std::string notes = host.appDir() / "notes";
+        const std::string program = host.addFile(
+            "print", "#!/bin/sh\nfor word; do echo \"<$word>\"; done > '" + notes + "'\nexit 3\n");
+        host.profile().setString("lpcmd", "/bin/sh " + program + " -n 2 \"%file\" 'last word'");
+        host.onExec([](const std::string& command) {
+            Process shell{{"/bin/sh", "-c", command}};
+            EXPECT_TRUE(waitUntil([&] { return !shell.isRunning(); }));
+            return shell.exitStatus();
+        });
+        EXPECT_EQ(print("/tmp/a file"), 0);
+        std::ifstream file{notes};
+        const std::string words{std::istreambuf_iterator<char>{file}, {}};
+        EXPECT_EQ(words, "<-n>\n<2>\n</tmp/a file>\n<last word>\n");
+    }
 }
 
-GUI_TEST(PrintCommand, IsAtMost2047BytesLong)
+GUI_TEST(PrintCommand, HasItsLimits)
 {
-    const std::string file(2047 - std::string{"lp -c "}.size(), 'f');
-    EXPECT_EQ(printed(file.c_str()), "lp -c " + file);
-    EXPECT_EQ(printed((file + 'f').c_str()), "");
+    // Is at most2047 bytes long.
+    {
+        const std::string file(2047 - std::string{"lp -c "}.size(), 'f');
+        EXPECT_EQ(printed(file.c_str()), "lp -c " + file);
+        EXPECT_EQ(printed((file + 'f').c_str()), "");
 
-    // A command has 1023, among which the place of the file must be.
-    for (const bool fits : {true, false}) {
-        const std::string before(fits ? 1018 : 1019, 'x');
-        host.profile().setString("lpcmd", before + "%file%file");
-        EXPECT_EQ(printed("f"), before + (fits ? "f" : "%fil f"));
+        // A command has 1023, among which the place of the file must be.
+        for (const bool fits : {true, false}) {
+            const std::string before(fits ? 1018 : 1019, 'x');
+            host.profile().setString("lpcmd", before + "%file%file");
+            EXPECT_EQ(printed("f"), before + (fits ? "f" : "%fil f"));
+        }
+        host.profile().setString("lpcmd", std::string(1023, 'x'));
+        EXPECT_EQ(printed(std::string(1023, 'f').c_str()),
+                  std::string(1023, 'x') + ' ' + std::string(1023, 'f'));
+        EXPECT_EQ(printed(std::string(1024, 'f').c_str()), "");
     }
-    host.profile().setString("lpcmd", std::string(1023, 'x'));
-    EXPECT_EQ(printed(std::string(1023, 'f').c_str()),
-              std::string(1023, 'x') + ' ' + std::string(1023, 'f'));
-    EXPECT_EQ(printed(std::string(1024, 'f').c_str()), "");
 }
 
 // Without a box, a message or a second of waiting.
@@ -69,30 +100,4 @@ GUI_TEST(PrintCommand, IsNotMadeForNothing)
     EXPECT_THAT(host.commands(), IsEmpty());
     EXPECT_EQ(guiGetTopWnd(), app.find("v_mainwnd"));
     EXPECT_EQ(guiGetDefPrnPage(), -1);
-}
-
-GUI_TEST(PrintCommand, TakesNoNoticeOfTheOtherArguments)
-{
-    EXPECT_EQ(guiPrintFile("file", 1, 2, 3, -4, 5, 6, 0), 0);
-    EXPECT_EQ(guiPrintFile("file", -1, 99, INT_MAX, INT_MIN, 1, 1, -1), 0);
-    EXPECT_THAT(host.commands(), Each(ExecCall{"lp -c file", 1, 1}));
-    EXPECT_EQ(host.commands().size(), 2u);
-}
-
-// By a shell, as the host's own service runs it.
-GUI_TEST(PrintCommand, IsOneOfTheShell)
-{
-    const std::string notes = host.appDir() / "notes";
-    const std::string program = host.addFile(
-        "print", "#!/bin/sh\nfor word; do echo \"<$word>\"; done > '" + notes + "'\nexit 3\n");
-    host.profile().setString("lpcmd", "/bin/sh " + program + " -n 2 \"%file\" 'last word'");
-    host.onExec([](const std::string& command) {
-        Process shell{{"/bin/sh", "-c", command}};
-        EXPECT_TRUE(waitUntil([&] { return !shell.isRunning(); }));
-        return shell.exitStatus();
-    });
-    EXPECT_EQ(print("/tmp/a file"), 0);
-    std::ifstream file{notes};
-    const std::string words{std::istreambuf_iterator<char>{file}, {}};
-    EXPECT_EQ(words, "<-n>\n<2>\n</tmp/a file>\n<last word>\n");
 }
