@@ -28,7 +28,7 @@ GUI_TEST(CopySelection, IsCopiedAndCut)
 
     // Of several lines keeps them.
     {
-        guiRestart();
+        XmTextSetString(findWidget("v_text"), const_cast<char*>(""));
         guiWriteText("one\ntwo\nthree");
         Widget const output = app.find("v_text");
         select(output, 2, 9);
