@@ -17,6 +17,14 @@ using ::testing::SizeIs;
 
 namespace {
 
+std::string dialogTitleOf(Widget board)
+{
+    XmString const title = resource<XmString>(board, XmNdialogTitle);
+    const std::string text = toString(title);
+    XmStringFree(title);
+    return text;
+}
+
 int dimension(Widget widget, const char* name)
 {
     return resource<Dimension>(widget, name);
@@ -123,8 +131,7 @@ GUI_TEST(EditorLook, IsThatOfATextWithTwoButtons)
             editAndAccept(
                 [&](Shown box) {
                     EXPECT_EQ(box.title(), row.shown);
-                    EXPECT_EQ(toString(resource<XmString>(box.widget(), XmNdialogTitle)),
-                              row.shown);
+                    EXPECT_EQ(dialogTitleOf(box.widget()), row.shown);
                 },
                 row.given);
     }

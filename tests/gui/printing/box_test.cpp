@@ -14,6 +14,18 @@
 using namespace kite::testing;
 using ::testing::SizeIs;
 
+namespace {
+
+std::string dialogTitleOf(Widget board)
+{
+    XmString const title = resource<XmString>(board, XmNdialogTitle);
+    const std::string text = toString(title);
+    XmStringFree(title);
+    return text;
+}
+
+}  // namespace
+
 GUI_TEST(PrintBox, IsPaintedBeforeTheCommandRuns)
 {
     // Has its parts.
@@ -25,7 +37,7 @@ GUI_TEST(PrintBox, IsPaintedBeforeTheCommandRuns)
             EXPECT_EQ(wm::nameOf(printShell()), "Printing...");
             EXPECT_EQ(XtParent(printBox()), printShell());
             EXPECT_TRUE(XtIsSubclass(printBox(), xmBulletinBoardWidgetClass));
-            EXPECT_EQ(toString(resource<XmString>(printBox(), XmNdialogTitle)), "Printing...");
+            EXPECT_EQ(dialogTitleOf(printBox()), "Printing...");
             EXPECT_EQ(resource<unsigned char>(printBox(), XmNdialogStyle),
                       XmDIALOG_FULL_APPLICATION_MODAL);
             EXPECT_FALSE(resource<Boolean>(printBox(), XmNautoUnmanage));
@@ -73,6 +85,7 @@ GUI_TEST(PrintBox, IsPaintedBeforeTheCommandRuns)
             EXPECT_EQ(extent(printLabel(), text), extent(app.find("v_sline"), text));
             EXPECT_NE(extent(printLabel(), text), extent(app.find("v_text"), text));
             EXPECT_GE(int{resource<Dimension>(printLabel(), XmNwidth)}, extent(printLabel(), text));
+            XmStringFree(text);
         });
     }
 
@@ -95,6 +108,7 @@ GUI_STARTUP_TEST(PrintBox, HasTheToolkitsFontWhenThereIsNone)
                                                            XmNlabelString, text, nullptr);
                       EXPECT_EQ(resource<Dimension>(printLabel(), XmNwidth),
                                 resource<Dimension>(bare, XmNwidth));
+                      XmStringFree(text);
                   }),
                   0);
     });
