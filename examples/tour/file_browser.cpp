@@ -84,9 +84,18 @@ void show(int index)
     guiSetText(Size, sizeOf(index).c_str());
 }
 
+// After guiGetPos no event comes until a control was changed.
+int selectedKey()
+{
+    const int key = guiGetPos(Files);
+    guiSetText(Size, "");
+    return key;
+}
+
 // Of the directory below the one that was chosen, or of a file, only the mark in the tree goes.
 void offerMore(int key)
 {
+    if (key == 0) return;
     guiCreatePopMenu();
     guiAppendPopMenu("&First entry");
     guiAppendPopMenu("&Hide it");
@@ -107,7 +116,7 @@ int handle(int event, int id, int a, int b)
     if (event == GUI_EVENT_INIT) begin();
     if (event == GUI_EVENT_SELECT && b == 0) show(a);
     if (event == GUI_EVENT_SELECT && b == 1) choose(a);
-    if (event == GUI_EVENT_CONTEXT && guiGetPos(Files) > 0) offerMore(guiGetPos(Files));
+    if (event == GUI_EVENT_CONTEXT) offerMore(selectedKey());
     if (event == GUI_EVENT_COMMAND && id == Close) guiClose(0);
     return 0;
 }

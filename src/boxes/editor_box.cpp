@@ -51,11 +51,36 @@ Widget createText(Widget scrolled)
 Widget createButton(Widget box, const char* name, const char* text)
 {
     const CompoundString label{text};
-    Widget const button = XtVaCreateManagedWidget(name, xmPushButtonWidgetClass, box,
-                                                  XmNlabelString, label.get(), nullptr);
+    Widget const button = XtVaCreateManagedWidget(
+        name, xmPushButtonWidgetClass, box, XmNlabelString, label.get(), XmNshadowThickness, 2,
+        XmNhighlightThickness, 1, XmNdefaultButtonShadowThickness, 0, nullptr);
     frameFonts::apply(button, frameFonts::Use::Dialog);
+    XtVaSetValues(button, XmNrecomputeSize, False, nullptr);
     return button;
 }
+
+// The toolkit gives the buttons of a board a shadow, and room for it, once one of them is the default button. At the
+// end of this scope a button is as before.
+class WithoutDefaultShadow {
+public:
+    explicit WithoutDefaultShadow(Widget button)
+        : button_(button), width_(resource<Dimension>(button, XmNwidth)),
+          height_(resource<Dimension>(button, XmNheight))
+    {
+    }
+    ~WithoutDefaultShadow()
+    {
+        XtVaSetValues(button_, XmNdefaultButtonShadowThickness, 0, nullptr);
+        XtVaSetValues(button_, XmNwidth, width_, XmNheight, height_, nullptr);
+    }
+    WithoutDefaultShadow(const WithoutDefaultShadow&) = delete;
+    WithoutDefaultShadow& operator=(const WithoutDefaultShadow&) = delete;
+
+private:
+    Widget button_;
+    Dimension width_;
+    Dimension height_;
+};
 
 Parts createParts(Widget box)
 {
@@ -67,10 +92,9 @@ Parts createParts(Widget box)
     adjustScrollBars(parts.scrolled, box);
     parts.ok = createButton(box, "v_okpbtn", "OK");
     parts.cancel = createButton(box, "v_clpbtn", "Cancel");
+    const WithoutDefaultShadow ok{parts.ok}, cancel{parts.cancel};
     XtVaSetValues(box, XmNinitialFocus, parts.scrolled, XmNdefaultButton, parts.ok, XmNcancelButton,
                   parts.cancel, nullptr);
-    // Only now: a button that becomes the default one gets a shadow around it.
-    for (Widget const button : {parts.ok, parts.cancel}) ModalBox::prepareButton(button);
     return parts;
 }
 

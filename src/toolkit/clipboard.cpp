@@ -29,6 +29,15 @@ int untilUnlocked(Call call)
     return status;
 }
 
+// To the toolkit we have what we had until it has seen the event of the loss, and then asks us instead of the new
+// owner.
+void hearOfLosses(Display* display)
+{
+    XSync(display, False);
+    XEvent event;
+    while (XCheckTypedEvent(display, SelectionClear, &event)) XtDispatchEvent(&event);
+}
+
 }  // namespace
 
 Clipboard::Clipboard(Widget widget)
@@ -41,10 +50,12 @@ Clipboard::Clipboard(Widget widget)
 }
 
 // All levels of the lock: where another client has no text in a format, asking for its length leaves one locked.
+// Others shall know at once, however long the handler goes on.
 Clipboard::~Clipboard()
 {
     if (!display_) return;
     XmClipboardUnlock(display_, window_, True);
+    XFlush(display_);
     isInUse = false;
 }
 
@@ -85,6 +96,7 @@ TextCopy Clipboard::textIn(const char* format)
 
 TextCopy Clipboard::text(std::initializer_list<const char*> formats)
 {
+    hearOfLosses(display_);
     untilUnlocked([&] {
         return XmClipboardStartRetrieve(display_, window_, XtLastTimestampProcessed(display_));
     });
