@@ -28,15 +28,20 @@ public:
         directory_ = mkdtemp(name.data());
         for (int i = 0; i < kFiles; ++i)
             std::ofstream{directory_ / ("file" + std::to_string(i) + ".txt")};
+        std::filesystem::current_path(directory_);  // where a box without a file begins
     }
-    ~ManyFiles() { std::filesystem::remove_all(directory_); }
+    ~ManyFiles()
+    {
+        std::filesystem::current_path(before_);
+        std::filesystem::remove_all(directory_);
+    }
     ManyFiles(const ManyFiles&) = delete;
     ManyFiles& operator=(const ManyFiles&) = delete;
 
     std::string mask() const { return directory_ / "*"; }
-    std::string file() const { return directory_ / "file0.txt"; }
 
 private:
+    std::filesystem::path before_ = std::filesystem::current_path();
     std::filesystem::path directory_;
 };
 
@@ -55,7 +60,6 @@ void openInLibrary(benchmark::State& state)
         Widget const frame = guiGetTopWnd();
         for ([[maybe_unused]] auto iteration : state) {
             char buffer[1024] = "";
-            files.file().copy(buffer, sizeof buffer - 1);
             measurement.begin(XtDisplay(frame));
             XtAppAddTimeOut(XtWidgetToApplicationContext(frame), 0, cancelWhenPainted, nullptr);
             guiOpenFileBox("Open", "All|*|", nullptr, 1, buffer, sizeof buffer);
