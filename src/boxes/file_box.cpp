@@ -19,6 +19,8 @@ namespace {
 constexpr int kWidth = 400;   // pixels
 constexpr int kHeight = 300;  // pixels
 constexpr std::size_t kLongestPath = 1023;
+constexpr int kVerticalMargin = 4;  // around and between the rows: what they leave is for the lists
+constexpr int kTextMargin = 2;
 
 std::string directoryOf(const std::string& file)
 {
@@ -50,6 +52,8 @@ Widget create(const FileBox::Content& content)
     arguments.set(XmNdirMask, mask.get());
     arguments.set(XmNwidth, kWidth);
     arguments.set(XmNheight, kHeight);
+    arguments.set(XmNresizePolicy, XmRESIZE_NONE);  // by the user alone, whatever is listed
+    arguments.set(XmNmarginHeight, kVerticalMargin);
     setFont(arguments, parent);
     return XmCreateFileSelectionDialog(parent, const_cast<char*>("v_filebox"), arguments.data(),
                                        arguments.size());
@@ -59,6 +63,12 @@ void prepareList(Widget list)
 {
     XtVaSetValues(list, XmNforeground, blackPixel(list), XmNbackground, whitePixel(list),
                   XmNshadowThickness, 2, nullptr);
+}
+
+void prepareText(Widget text)
+{
+    XtVaSetValues(text, XmNmarginHeight, kTextMargin, nullptr);
+    showInsertionCursorWithFocus(text);
 }
 
 }  // namespace
@@ -82,12 +92,13 @@ void FileBox::prepare(const Content& content)
     Widget const cancel = child(XmDIALOG_CANCEL_BUTTON);
     removeParts({XmDIALOG_HELP_BUTTON, XmDIALOG_SEPARATOR});
     for (const unsigned char list : {XmDIALOG_DIR_LIST, XmDIALOG_LIST}) prepareList(child(list));
-    for (const unsigned char text : {XmDIALOG_FILTER_TEXT, XmDIALOG_TEXT})
-        showInsertionCursorWithFocus(child(text));
+    for (const unsigned char text : {XmDIALOG_FILTER_TEXT, XmDIALOG_TEXT}) prepareText(child(text));
     box_.finishButtons(ButtonWidth::NaturalCancel, {ok, filter, cancel});
     if (!content.initialFile.empty()) {
         std::string file = content.initialFile;
-        XmTextFieldSetString(child(XmDIALOG_TEXT), file.data());
+        Widget const text = child(XmDIALOG_TEXT);
+        XmTextFieldSetString(text, file.data());
+        XmTextFieldSetInsertionPosition(text, XmTextFieldGetLastPosition(text));
     }
     box_.answerOn(widget(), XmNokCallback, 1);
     box_.answerOn(widget(), XmNcancelCallback, 0);

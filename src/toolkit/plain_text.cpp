@@ -24,6 +24,8 @@ std::string plainText(XmString string)
             text.append(owned.get(), length);
         else if (type == XmSTRING_COMPONENT_SEPARATOR)
             text += '\n';
+        else if (type == XmSTRING_COMPONENT_TAB)
+            text += '\t';
     }
     return text;
 }
