@@ -7,7 +7,7 @@
 #include <csignal>
 #include <cstdio>
 #include <initializer_list>
-#include <string_view>
+#include <string>
 
 #ifndef __SANITIZE_ADDRESS__
 namespace {
@@ -29,20 +29,28 @@ __attribute__((constructor)) void catchCrashes()
 }  // namespace
 #endif
 
-// A menu comes up without the keyboard when another program has it just then, as the window manager while a key of
-// its own is held. That is no mistake of anybody's.
-static bool isToBeTold(const char* text)
+// What is no mistake of the program's. A menu comes up without the keyboard when another program has it just then, as
+// the window manager while a key of its own is held. And Motif's own translations of text fields give an action a
+// parameter that it does not know.
+static bool isToBeTold(const std::string& text)
 {
-    return std::string_view{text}.find("XtGrabKeyboard failed") == std::string_view::npos;
+    return text.find("XtGrabKeyboard failed") == std::string::npos &&
+           text.find("TextFieldDirectionActionParam") == std::string::npos;
+}
+
+static void tell(const std::string& text)
+{
+    if (isToBeTold(text)) std::fprintf(stderr, "Toolkit warning: %s\n", text.c_str());
 }
 
 extern "C" {
 
 void XtAppWarningMsg(XtAppContext, _Xconst _XtString name, _Xconst _XtString type,
-                     _Xconst _XtString, _Xconst _XtString text, String*, Cardinal*)
+                     _Xconst _XtString, _Xconst _XtString text, String* parameters, Cardinal* count)
 {
-    if (!isToBeTold(text)) return;
-    std::fprintf(stderr, "Toolkit warning %s, %s: %s\n", name, type, text);
+    std::string all = std::string{name} + ", " + type + ": " + text;
+    for (Cardinal i = 0; count && i < *count; ++i) all += std::string{" | "} + parameters[i];
+    tell(all);
 }
 
 void XtWarningMsg(_Xconst _XtString name, _Xconst _XtString type, _Xconst _XtString kind,
@@ -53,12 +61,12 @@ void XtWarningMsg(_Xconst _XtString name, _Xconst _XtString type, _Xconst _XtStr
 
 void XtAppWarning(XtAppContext, _Xconst _XtString text)
 {
-    std::fprintf(stderr, "Toolkit warning: %s\n", text);
+    tell(text);
 }
 
 void XtWarning(_Xconst _XtString text)
 {
-    XtAppWarning(nullptr, text);
+    tell(text);
 }
 
 }  // extern "C"
