@@ -1,78 +1,14 @@
 // tour_test.cpp: the tour, used from outside like any program.
 
-#include <filesystem>
-#include <fstream>
-#include <optional>
-#include <sstream>
-
-#include "gui_test.h"
-#include "temporary_directory.h"
+#include "tour_program.h"
 
 using namespace kite::testing;
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
 
-namespace {
-
-class Tour {
-public:
-    Tour()
-    {
-        std::filesystem::current_path(directory_.path());  // the tour saves there
-        std::ofstream{path("profile")} << "[tour]\nlogfm = 1\nlogfn = " << path("log") << "\n";
-        program_.emplace(std::vector<std::string>{TOUR_PROGRAM},
-                         Process::Environment{{"KITE_PROFILE", path("profile")}});
-    }
-
-    // Once it has the keyboard and takes commands; 0 when it does not come.
-    Window window() const
-    {
-        const Window window = wm::waitForWindow("kitegui tour");
-        if (!window || !waitUntilLogged("Welcome")) return 0;
-        return hasMovingGauge(window) && wm::waitForFocus(window) ? window : 0;
-    }
-
-    std::string path(const std::string& name) const { return directory_.path() / name; }
-
-    std::string contents(const std::string& name) const
-    {
-        std::ostringstream all;
-        all << std::ifstream{path(name)}.rdbuf();
-        return all.str();
-    }
-
-    bool waitUntilLogged(const std::string& text) const
-    {
-        return pumpUntil([&] { return contents("log").find(text) != std::string::npos; });
-    }
-
-    Process& program() { return *program_; }
-
-private:
-    // Its timer feeds it, from the main loop.
-    static bool hasMovingGauge(Window window)
-    {
-        const auto look = [=] { return screen::grab(wm::clientRect(window)); };
-        const screen::Picture before = look();
-        return pumpUntil([&] { return look() != before; });
-    }
-
-    TemporaryDirectory directory_{"tour"};
-    std::optional<Process> program_;
-};
-
-// Agrees to the box that comes up over the frame.
-void agree(Window frame)
-{
-    ASSERT_TRUE(pumpUntil([=] { return !wm::hasFocus(frame); }));
-    Robot::instance().key(XK_Return);
-}
-
-}  // namespace
-
 GUI_STARTUP_TEST(Tour, WritesSavesLogsAndLeaves)
 {
-    Tour tour;
+    TourProgram tour;
     const Window frame = tour.window();
     ASSERT_TRUE(frame) << tour.program().output();
     // Motif takes two keys of the same millisecond for one.
@@ -101,7 +37,7 @@ GUI_STARTUP_TEST(Tour, WritesSavesLogsAndLeaves)
 // Each is opened by its accelerator, and closed by the user's key or by the window manager.
 GUI_STARTUP_TEST(Tour, ShowsItsDialogs)
 {
-    Tour tour;
+    TourProgram tour;
     const Window frame = tour.window();
     ASSERT_TRUE(frame) << tour.program().output();
     constexpr std::pair<KeySym, const char*> kDialogs[] = {{XK_g, "Registration"},
@@ -131,7 +67,7 @@ GUI_STARTUP_TEST(Tour, ShowsItsDialogs)
 // An inner dialog closes before the outer one does.
 GUI_STARTUP_TEST(Tour, NestsItsDialogs)
 {
-    Tour tour;
+    TourProgram tour;
     const Window frame = tour.window();
     ASSERT_TRUE(frame) << tour.program().output();
     robot.key(XK_d, Control);
