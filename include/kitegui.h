@@ -242,7 +242,7 @@ KITEGUI_API int guiStart(GuiHandler handler);
 
 /*
  * Closes the top window: a running dialog ends with the given code as its result; a box ends as if its
- * window had been closed; for the main frame the geometry is saved (profile keys "mwndx", "mwndy",
+ * window had been closed (the editor box without a question); for the main frame the geometry is saved (profile keys "mwndx", "mwndy",
  * "mwndw", "mwndh", unless "mwndp" is 0 or the frame is iconified), the log is stopped, the frame is
  * destroyed and guiStart returns.
  *
@@ -845,7 +845,8 @@ KITEGUI_API int guiChoice(int id, int row, int x, int width);
 /*
  * The same with a text to type in: "Edit: cannot create control %d". Raises GUI_EVENT_TEXT_CHANGED whenever
  * the text changes, and GUI_EVENT_VALUE when an item is picked, and again when a text that was typed is left:
- * with the position that is selected in the list (0 when none is), and behind GUI_EVENT_LEFT.
+ * with the position that is selected in the list (0 when none is), and behind GUI_EVENT_LEFT when the keyboard
+ * moved it on.
  */
 KITEGUI_API int guiCombo(int id, int row, int x, int width);
 
@@ -1347,8 +1348,8 @@ KITEGUI_API int guiEditorPutLine(const char *line);
 KITEGUI_API int guiEditorBox(const char *title);
 
 /*
- * Copies the next line, without its line end and carriage returns, into the buffer. Of a line that is longer than
- * size - 1 bytes, the next call returns the rest.
+ * Copies the next line, without its line end and carriage returns, into the buffer. Of a line of size - 1 bytes or
+ * more, the next call returns the rest, which may be nothing but the line end: 0 then.
  *
  * Returns the length. With the last line the text is emptied: the next call returns -1. -1 after "EditorGetLine:
  * invalid buffer" for a null buffer or a size below 2.
@@ -1439,7 +1440,10 @@ const char *kxFullName(const char *path);
 /* The index in the path at which the file name begins, behind the directory. */
 int kxLocNamePos(const char *path);
 
-/* Runs a command line; the library passes 1 for both flags. Returns -1 when it could not be run. */
+/*
+ * Runs a command line; the library passes 1 for both flags. Returns -1 when it could not be run at all: a shell that
+ * does not find the command has been run.
+ */
 int kxExec(const char *commandLine, int flag1, int flag2);
 
 #ifdef __cplusplus

@@ -12,12 +12,14 @@
 #include "boxes/misuse.h"
 #include "boxes/modal_box.h"
 #include "frame/frame_fonts.h"
+#include "frame/top_window.h"
 #include "toolkit/colours.h"
 #include "toolkit/host_buffer.h"
 #include "toolkit/insertion_cursor.h"
 #include "toolkit/never_destroyed.h"
 #include "toolkit/resources.h"
 #include "toolkit/scroll_bars.h"
+#include "toolkit/shells.h"
 #include "toolkit/text_copy.h"
 
 namespace kite {
@@ -116,6 +118,12 @@ void layOut(Widget box, const Parts& parts)
     XtVaSetValues(parts.cancel, XmNx, left + 2 * buttonWidth, XmNy, top, nullptr);
 }
 
+// The frame's shell when no window is the top one.
+Widget editorParent()
+{
+    return topWindow() || !mainWindow() ? boxParent() : shellOf(mainWindow());
+}
+
 // The text as the user leaves it goes back into the buffer.
 bool keep(Widget text)
 {
@@ -170,8 +178,8 @@ int guiEditorPutLine(const char* line)
 // Handlers may fill the buffer anew while the box is open: what the user has edited is what counts then.
 int guiEditorBox(const char* title)
 {
-    Widget const board =
-        createEmptyBox("v_editorshell", "v_editorbox", title && *title ? title : "Editor");
+    Widget const board = createEmptyBox(editorParent(), "v_editorshell", "v_editorbox",
+                                        title && *title ? title : "Editor");
     if (!board) return GUI_FAILED;
     const int lines = edit(board) ? buffer.lines() : GUI_FAILED;
     if (lines <= 0) buffer.reset();

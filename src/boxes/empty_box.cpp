@@ -3,16 +3,14 @@
 #include <Xm/BulletinB.h>
 #include <Xm/DialogS.h>
 
-#include "frame/top_window.h"
 #include "toolkit/compound_string.h"
 #include "toolkit/displayable_text.h"
 #include "toolkit/shells.h"
 
 namespace kite {
 
-Widget createEmptyBox(const char* shellName, const char* boxName, const char* title)
+Widget createEmptyBox(Widget parent, const char* shellName, const char* boxName, const char* title)
 {
-    Widget const parent = boxParent();
     if (!parent) return nullptr;
     Widget const shell = XtVaCreatePopupShell(shellName, xmDialogShellWidgetClass, parent, XmNtitle,
                                               displayableText(title).c_str(), nullptr);

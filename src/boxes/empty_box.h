@@ -7,7 +7,7 @@
 namespace kite {
 
 // A bulletin board in a dialog shell of its own, both titled, neither shown yet. Null when the toolkit could not
-// make them.
-Widget createEmptyBox(const char* shellName, const char* boxName, const char* title);
+// make them, and for a null parent.
+Widget createEmptyBox(Widget parent, const char* shellName, const char* boxName, const char* title);
 
 }  // namespace kite

@@ -49,7 +49,7 @@ void drawNow(Widget box)
 // The box is there as long as the command runs; false when it could not be made.
 bool runBehindBox(const std::string& command, int& result)
 {
-    const WidgetRef box{createEmptyBox("v_printshell", "v_printbox", "Printing...")};
+    const WidgetRef box{createEmptyBox(boxParent(), "v_printshell", "v_printbox", "Printing...")};
     if (!box) return false;
     Widget const shell = XtParent(box.get());
     freePaintedLabelsWith(shell);

@@ -5,6 +5,7 @@
 #include <Xm/SeparatoG.h>
 #include <kitegui.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <memory>
 #include <utility>
@@ -134,14 +135,20 @@ void takeDown(const Popup* other)
     if (Widget const menu = other ? other->menu.get() : nullptr) XtUnmanageChild(menu);
 }
 
+// Positions have 16 bits; the toolkit brings menus back to the screen that stand a little outside.
+int withinReach(int position, int screenSize)
+{
+    return std::clamp(position, -screenSize, screenSize);
+}
+
 int show(Popup& popup, Point place)
 {
     takeDown(waiting);
     Popup* const outer = std::exchange(waiting, &popup);
     Widget const menu = popup.menu.get();
     XButtonPressedEvent press{};
-    press.x_root = place.x;
-    press.y_root = place.y;
+    press.x_root = withinReach(place.x, WidthOfScreen(XtScreen(menu)));
+    press.y_root = withinReach(place.y, HeightOfScreen(XtScreen(menu)));
     XmMenuPosition(menu, &press);
     popup.result = Popup::kPending;
     XtManageChild(menu);

@@ -25,8 +25,6 @@ namespace kite::frame {
 
 namespace {
 
-constexpr int kHostsLoop = -1;  // the host dispatches by itself: none of the loops is the frame's
-
 DialogActions dialogs{nullptr, nullptr, nullptr};  // set by the first dialog
 
 // The settings are the host's: it may close the frame when it is asked for one.
@@ -44,7 +42,7 @@ void closeDialog(Widget dialog, int loopsBefore)
     Widget const shell = shellOf(dialog);
     Widget const parent = XtParent(shell);
     if (dialog != shell) XtUnmanageChild(dialog);
-    closeShell(shell, loopsBefore);
+    takeAway(shell, loopsBefore);
     setTopWindow(parent && parent != widgets().shell ? parent : mainWindow());
 }
 
@@ -89,7 +87,7 @@ void close()
     setMainWindow(nullptr);
     setTopWindow(nullptr);
     XtUnmanageChild(mainWindow.get());
-    closeShell(shell, isLoopRunning() ? 0 : kHostsLoop);
+    takeAway(shell, loopsBeforeFrame());
 }
 
 }  // namespace kite::frame

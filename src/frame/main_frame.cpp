@@ -150,7 +150,7 @@ void recreateToolbar()
 void dropToolbar()
 {
     XtUnmanageChild(frame.toolbar);
-    XtDestroyWidget(frame.toolbar);
+    takeAway(frame.toolbar, loopsBeforeFrame());
     frame.toolbar = nullptr;
 }
 

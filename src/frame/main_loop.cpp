@@ -46,6 +46,11 @@ bool isLoopRunning()
     return isRunning;
 }
 
+int loopsBeforeFrame()
+{
+    return isRunning ? 0 : -1;
+}
+
 }  // namespace kite
 
 int guiStart(GuiHandler handler)

@@ -6,4 +6,7 @@ namespace kite {
 
 bool isLoopRunning();
 
+// How many event loops had begun before the one that the frame's events come from; -1 when that is the host's.
+int loopsBeforeFrame();
+
 }  // namespace kite

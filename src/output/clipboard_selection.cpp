@@ -53,9 +53,10 @@ XmTextPosition removeSelection(Widget text)
     return left;
 }
 
+// A dialog that is about to be shown has no window yet.
 TextCopy plainTextFor(Widget window)
 {
-    Clipboard clipboard{window};
+    Clipboard clipboard{window && XtIsWidget(window) && XtIsRealized(window) ? window : copier()};
     return clipboard ? clipboard.text({kPlainText}) : TextCopy{};
 }
 

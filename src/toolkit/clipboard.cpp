@@ -96,6 +96,7 @@ TextCopy Clipboard::textIn(const char* format)
 
 TextCopy Clipboard::text(std::initializer_list<const char*> formats)
 {
+    reading_.emplace();
     hearOfLosses(display_);
     untilUnlocked([&] {
         return XmClipboardStartRetrieve(display_, window_, XtLastTimestampProcessed(display_));

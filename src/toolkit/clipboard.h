@@ -8,8 +8,10 @@
 #include <X11/Intrinsic.h>
 
 #include <initializer_list>
+#include <optional>
 #include <string_view>
 
+#include "toolkit/nested_loop.h"
 #include "toolkit/text_copy.h"
 
 namespace kite {
@@ -38,6 +40,8 @@ public:
 private:
     TextCopy textIn(const char* format);
 
+    // Waiting for another client is an event loop like any other; it is the toolkit's.
+    std::optional<ProcessingEvents> reading_;
     Display* display_ = nullptr;
     Window window_ = 0;
 };

@@ -16,8 +16,9 @@ Point pointerOnScreen(Widget widget)
     int x, y;
     unsigned int buttons;
     Point pointer;
-    XQueryPointer(XtDisplay(widget), XtWindow(widget), &root, &child, &pointer.x, &pointer.y, &x,
-                  &y, &buttons);
+    // The widget may have no window yet.
+    XQueryPointer(XtDisplay(widget), RootWindowOfScreen(XtScreen(widget)), &root, &child,
+                  &pointer.x, &pointer.y, &x, &y, &buttons);
     return pointer;
 }
 

@@ -33,7 +33,7 @@ void forgetPathOfKeys(Widget shell, XtPointer, XtPointer)
     XtDispatchEvent(&event);
 }
 
-// Closed, and not yet destroyed.
+// Taken away, and not yet destroyed.
 std::vector<Widget>& closed = neverDestroyed<std::vector<Widget>>();
 
 void forget(Widget shell, XtPointer, XtPointer)
@@ -71,15 +71,16 @@ void destroyShell(Widget shell)
     XtDestroyWidget(shell);
 }
 
-void closeShell(Widget shell, int loopsBefore)
+void takeAway(Widget widget, int loopsBefore)
 {
-    if (loopsRunning() <= loopsBefore + 1) return destroyShell(shell);
-    XtUngrabKeyboard(shell, CurrentTime);
-    if (XtIsRealized(shell))
-        XWithdrawWindow(XtDisplay(shell), XtWindow(shell), XScreenNumberOfScreen(XtScreen(shell)));
-    XtAddCallback(shell, XmNdestroyCallback, forget, nullptr);
-    closed.push_back(shell);
-    whenLoopsAre(loopsBefore + 1, [shell] { destroyClosed(shell); });
+    if (loopsRunning() <= loopsBefore + 1) return destroyShell(widget);
+    XtUngrabKeyboard(widget, CurrentTime);
+    if (XtIsShell(widget) && XtIsRealized(widget))
+        XWithdrawWindow(XtDisplay(widget), XtWindow(widget),
+                        XScreenNumberOfScreen(XtScreen(widget)));
+    XtAddCallback(widget, XmNdestroyCallback, forget, nullptr);
+    closed.push_back(widget);
+    whenLoopsAre(loopsBefore + 1, [widget] { destroyClosed(widget); });
 }
 
 bool isGoing(Widget widget)

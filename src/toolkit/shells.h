@@ -14,11 +14,11 @@ Widget shellOf(Widget widget);
 // makes up for a shell that it destroys.
 void destroyShell(Widget shell);
 
-// The same for a window that is closed while other windows wait, one inside the other: an event of one of its
-// widgets may be what they have come up in. Xt would destroy the widget when the event is over in which it is
-// closed, and go on with the outer event. So it is out of use at once, and destroyed when no more than
-// `loopsBefore` event loops run and one more: that of the window.
-void closeShell(Widget shell, int loopsBefore);
+// The same for a window, or a part of one, that goes while other windows wait, one inside the other: an event of one
+// of its widgets may be what they have come up in. Xt would destroy the widget when the event is over in which it
+// goes, and then continue with the outer event. So it is out of use at once, and destroyed when no more event
+// loops run than `loopsBefore`, those that had begun before the window's own, and that one.
+void takeAway(Widget widget, int loopsBefore);
 
 // It is destroyed, or waits for that.
 bool isGoing(Widget widget);

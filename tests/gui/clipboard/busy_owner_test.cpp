@@ -139,3 +139,31 @@ GUI_TEST(BusyOwner, MayOutliveTheDialogThatWaitsForIt)
     EXPECT_TRUE(isClipboardFree());
     EXPECT_EQ(guiClipLines(), 1);
 }
+
+GUI_STARTUP_TEST(BusyOwner, MayOutliveTheFrameThatWaitsForIt)
+{
+    app.run([this] {
+        Client client{{"own", "STRING", "abc"}};
+        client->send(SIGSTOP);
+        setSelectionPatience(milliseconds{600});
+        recorder.onEvent(GUI_EVENT_TIMER, [] { guiClose(0); });
+        guiTimer(100);
+        EXPECT_EQ(guiClipLines(), 0);
+        EXPECT_FALSE(guiGetTopWnd());
+        client->send(SIGCONT);
+    });
+}
+
+// It has no window yet that could stand for us.
+GUI_TEST(PasteSelection, WorksWhileADialogIsFilled)
+{
+    guiCopyText("abc");
+    recorder.onEvent(GUI_EVENT_INIT, [] { guiPasteSel(innerOf(1)); });
+    ASSERT_EQ(guiDialog("Dialog"), 0);
+    guiEdit(1, 0, 0, 80, 0, 0);
+    app.whenShown("v_dlgbbr", [](Shown) {
+        EXPECT_EQ(textOf(innerOf(1)), "abc\n");
+        guiClose(1);
+    });
+    EXPECT_EQ(guiRunDialog(Recorder::dialogHandler()), 1);
+}

@@ -169,3 +169,28 @@ GUI_STARTUP_TEST(CommandHandlers, CommandsGoOnAfterwards)
                     ElementsAre(toHost(GUI_EVENT_COMMAND, 2, 1), toHost(GUI_EVENT_COMMAND, 2, 0)));
     });
 }
+
+// The click is still being handled in the button when the close request has taken the toolbar away.
+GUI_STARTUP_TEST(CommandHandlers, MayRestartTheFrameWhileTheMenuOfAToolbarButtonWaits)
+{
+    int picked = -1;
+    recorder.onEvent(GUI_EVENT_COMMAND, 0, [] {
+        guiRestart();
+        guiToolbarButton("image", "New", GUI_PLAIN, 3);
+    });
+    recorder.onEvent(GUI_EVENT_COMMAND, 1, [&] {
+        guiCreatePopMenu();
+        guiAppendPopMenu("Item");
+        picked = guiShowPopMenu(0, 0, 0, 0);
+    });
+    buildThenRun(buildCommands, [&] {
+        app.whenShown("p_menu", [this](Shown menu) {
+            wm::requestClose(app.shell());
+            EXPECT_TRUE(app.waitForEvent(toWindow(GUI_EVENT_COMMAND)));
+            menu.key(XK_Escape);
+        });
+        pressPlainButton();
+        EXPECT_TRUE(pumpUntil([&] { return picked == 0; }));
+        EXPECT_TRUE(pumpUntil([] { return toolbarButtons().size() == 1; }));
+    });
+}

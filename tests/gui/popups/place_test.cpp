@@ -161,3 +161,31 @@ GUI_TEST(PopupPlace, IsOnTheScreenHoweverFarItIs)
                       place),
                   0);
 }
+
+// The dialog has no window yet.
+GUI_TEST(PopupPlace, IsThePointerWhileADialogIsFilled)
+{
+    Point corner;
+    Point unknown;
+    recorder.onEvent(GUI_EVENT_INIT, [&] {
+        corner = shownAt({0, 0, 0, 0});
+        EXPECT_THAT(errorsDuring([&] { unknown = shownAt({0, 0, 0, 9}); }), ::testing::SizeIs(1));
+        guiClose(1);
+    });
+    ASSERT_EQ(guiDialog("Dialog"), 0);
+    guiButton(1, 0, 0, 60, "Button", 0);
+    EXPECT_EQ(guiRunDialog(Recorder::dialogHandler()), 1);
+    EXPECT_EQ(corner, kPointer);
+    EXPECT_EQ(unknown, kPointer);
+}
+
+// What lies beyond the screen is brought back to its far edge, however far it lies.
+GUI_TEST(PopupPlace, IsOnTheScreenForTheLargestNumbers)
+{
+    const Point far = shownAt({2000, 2000, 1, 0});
+    for (const int units : {16000, 40000, 0x40000000, INT_MAX}) {
+        SCOPED_TRACE(units);
+        EXPECT_EQ(shownAt({units, units, 1, 0}), far);
+        EXPECT_EQ(shownAt({units, units, 0, 0}), far);
+    }
+}
