@@ -22,11 +22,14 @@ Step answered(const char* button)
     });
 }
 
-// The user is back in the editor after a question.
+// The user is back in the editor after a question, and the window manager is done with that.
 Step back(const std::function<void(Shown)>& action)
 {
     return {"the editor is back", [] { return guiGetTopWnd() == findWidget(kEditor); },
-            [=] { action(Shown{findWidget(kEditor)}); }};
+            [=] {
+                EXPECT_TRUE(wm::waitForFocus(findWidget(kEditor)));
+                action(Shown{findWidget(kEditor)});
+            }};
 }
 
 }  // namespace
