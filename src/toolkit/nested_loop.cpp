@@ -32,6 +32,16 @@ Boolean doWork(XEvent*)
     return True;
 }
 
+// What was waiting for so few loops. A work may let others wait.
+void doWhatIsDue()
+{
+    const auto due = std::stable_partition(waiting.begin(), waiting.end(),
+                                           [](const Waiting& one) { return running > one.most; });
+    const std::vector<Waiting> works{due, waiting.end()};
+    waiting.erase(due, waiting.end());
+    for (const Waiting& one : works) one.work();
+}
+
 }  // namespace
 
 // Xt destroys at the end of an event.
@@ -84,11 +94,7 @@ ProcessingEvents::ProcessingEvents()
 ProcessingEvents::~ProcessingEvents()
 {
     --running;
-    const auto due = std::ranges::stable_partition(
-        waiting, [](const Waiting& one) { return running > one.most; });
-    const std::vector<Waiting> works{due.begin(), due.end()};
-    waiting.erase(due.begin(), due.end());
-    for (const Waiting& one : works) one.work();
+    doWhatIsDue();
     observer.ended();
 }
 

@@ -29,9 +29,9 @@ __attribute__((constructor)) void catchCrashes()
 }  // namespace
 #endif
 
-// What is no mistake of the program's. A menu comes up without keyboard or pointer when another program has it just then, as
-// the window manager while a key of its own is held. And Motif's own translations of text fields give an action a
-// parameter that it does not know.
+// What is no mistake of the program's. A menu comes up without keyboard or pointer when another program has it just
+// then, as the window manager while a key of its own is held. And Motif's own translations of text fields give an
+// action a parameter that it does not know.
 static bool isToBeTold(const std::string& text)
 {
     return text.find("XtGrab") == std::string::npos &&
