@@ -1,5 +1,6 @@
 // widget_text.cpp: the texts that widgets show, as plain strings.
 
+#include <X11/Xatom.h>
 #include <Xm/LabelGP.h>
 #include <Xm/LabelP.h>
 #include <Xm/MessageB.h>
@@ -65,6 +66,29 @@ std::string textOf(Widget widget)
     if (XmIsTextField(widget)) text = XmTextFieldGetString(widget);
     std::string copy = text ? text : "";
     XtFree(text);
+    return copy;
+}
+
+std::string dialogTitleOf(Widget board)
+{
+    return stringResource(board, XmNdialogTitle);
+}
+
+std::string fontNameOf(Widget widget, const char* fontListResource)
+{
+    XmFontContext context = nullptr;
+    auto* const list = resource<XmFontList>(widget, fontListResource);
+    if (!list || !XmFontListInitFontContext(&context, list)) return {};
+    XmFontListEntry const entry = XmFontListNextEntry(context);
+    XmFontType type = XmFONT_IS_FONT;
+    auto* const font =
+        static_cast<XFontStruct*>(entry ? XmFontListEntryGetFont(entry, &type) : nullptr);
+    XmFontListFreeFontContext(context);
+    unsigned long name = 0;
+    if (!font || type != XmFONT_IS_FONT || !XGetFontProperty(font, XA_FONT, &name)) return {};
+    char* const text = XGetAtomName(XtDisplayOfObject(widget), name);
+    std::string copy = text;
+    XFree(text);
     return copy;
 }
 

@@ -54,6 +54,10 @@ std::string toString(XmString string);
 std::string labelOf(Widget widget);  // XmNlabelString
 std::string messageOf(Widget box);   // the message, or the prompt of a selection box
 std::string textOf(Widget textOrTextField);
+std::string dialogTitleOf(Widget board);  // XmNdialogTitle
+
+// The name of the first font of a widget's list, as the server knows it; empty when it is none of the server's.
+std::string fontNameOf(Widget widget, const char* fontListResource = XmNfontList);
 
 // Names, classes, places and labels, indented: for reports.
 void printTree(std::ostream& out, Widget from, int depth = 0);

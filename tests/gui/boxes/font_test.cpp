@@ -11,23 +11,6 @@ namespace {
 
 const std::string kLargeFont = "-misc-fixed-medium-r-normal--20-200-75-75-c-100-iso8859-1";
 
-// The full name, as the server knows it.
-std::string fontOf(Widget widget)
-{
-    XmFontContext context = nullptr;
-    if (!XmFontListInitFontContext(&context, resource<XmFontList>(widget, XmNfontList))) return {};
-    XmFontListEntry const entry = XmFontListNextEntry(context);
-    XmFontType type{};
-    auto* const font = static_cast<XFontStruct*>(XmFontListEntryGetFont(entry, &type));
-    XmFontListFreeFontContext(context);
-    unsigned long name = 0;
-    if (type != XmFONT_IS_FONT || !XGetFontProperty(font, XA_FONT, &name)) return {};
-    char* const text = XGetAtomName(XtDisplayOfObject(widget), name);
-    std::string copy = text;
-    XFree(text);
-    return copy;
-}
-
 // All that shows a text and stays.
 std::vector<Widget> writtenParts(Widget box)
 {
@@ -42,7 +25,7 @@ void expectFont(const std::string& font)
     for (const BoxKind& kind : allBoxes())
         whileShown(kind, [&](Shown box) {
             for (Widget const part : writtenParts(box.widget()))
-                EXPECT_EQ(fontOf(part), font) << XtName(part);
+                EXPECT_EQ(fontNameOf(part), font) << XtName(part);
         });
 }
 
@@ -50,7 +33,7 @@ void expectFont(const std::string& font)
 
 GUI_TEST(BoxFont, IsTheOneOfTheStatusLine)
 {
-    const std::string font = fontOf(app.find("v_sline"));
+    const std::string font = fontNameOf(app.find("v_sline"));
     EXPECT_EQ(font, "-Adobe-Helvetica-Medium-R-Normal--14-100-100-100-P-76-ISO8859-1");
     expectFont(font);
 }
@@ -69,9 +52,9 @@ GUI_STARTUP_TEST(BoxFont, IsTheToolkitsWhenThereIsNone)
             const BareBox bare{kind};
             whileShown(kind, [&](Shown box) {
                 for (Widget const part : buttonsOf(box.widget()))
-                    EXPECT_EQ(fontOf(part), fontOf(bare.part(XmDIALOG_OK_BUTTON)));
-                EXPECT_EQ(fontOf(messageLabelOf(box.widget())),
-                          fontOf(messageLabelOf(bare.widget())));
+                    EXPECT_EQ(fontNameOf(part), fontNameOf(bare.part(XmDIALOG_OK_BUTTON)));
+                EXPECT_EQ(fontNameOf(messageLabelOf(box.widget())),
+                          fontNameOf(messageLabelOf(bare.widget())));
             });
         }
     });

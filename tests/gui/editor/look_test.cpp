@@ -17,14 +17,6 @@ using ::testing::SizeIs;
 
 namespace {
 
-std::string dialogTitleOf(Widget board)
-{
-    XmString const title = resource<XmString>(board, XmNdialogTitle);
-    const std::string text = toString(title);
-    XmStringFree(title);
-    return text;
-}
-
 int dimension(Widget widget, const char* name)
 {
     return resource<Dimension>(widget, name);
@@ -33,22 +25,6 @@ int dimension(Widget widget, const char* name)
 int position(Widget widget, const char* name)
 {
     return resource<Position>(widget, name);
-}
-
-std::string fontOf(Widget widget)
-{
-    XmFontContext context = nullptr;
-    if (!XmFontListInitFontContext(&context, resource<XmFontList>(widget, XmNfontList))) return {};
-    XmFontListEntry const entry = XmFontListNextEntry(context);
-    XmFontType type{};
-    auto* const font = static_cast<XFontStruct*>(XmFontListEntryGetFont(entry, &type));
-    XmFontListFreeFontContext(context);
-    unsigned long name = 0;
-    if (type != XmFONT_IS_FONT || !XGetFontProperty(font, XA_FONT, &name)) return {};
-    char* const text = XGetAtomName(XtDisplayOfObject(widget), name);
-    std::string copy = text;
-    XFree(text);
-    return copy;
 }
 
 // The width that the toolkit gives such a button where there is no default button.
@@ -195,10 +171,10 @@ GUI_TEST(EditorLook, IsThatOfATextWithTwoButtons)
     // Has the fonts of the frame.
     {
         editAndAccept([&](Shown) {
-            EXPECT_EQ(fontOf(editorText()), fontOf(app.find("v_text")));
-            EXPECT_EQ(fontOf(findWidget("v_okpbtn")), fontOf(app.find("v_sline")));
-            EXPECT_EQ(fontOf(findWidget("v_clpbtn")), fontOf(app.find("v_sline")));
-            EXPECT_NE(fontOf(app.find("v_text")), fontOf(app.find("v_sline")));
+            EXPECT_EQ(fontNameOf(editorText()), fontNameOf(app.find("v_text")));
+            EXPECT_EQ(fontNameOf(findWidget("v_okpbtn")), fontNameOf(app.find("v_sline")));
+            EXPECT_EQ(fontNameOf(findWidget("v_clpbtn")), fontNameOf(app.find("v_sline")));
+            EXPECT_NE(fontNameOf(app.find("v_text")), fontNameOf(app.find("v_sline")));
         });
     }
 }
@@ -218,7 +194,7 @@ GUI_STARTUP_TEST(EditorLook, FollowsOtherMarginsAndFonts)
             expectLayout(box.widget());
             const std::string font = "-Misc-Fixed-Medium-R-Normal--20-200-75-75-C-100-ISO8859-1";
             for (const char* const name : {"v_mltext", "v_okpbtn", "v_clpbtn"})
-                EXPECT_EQ(fontOf(findWidget(name)), font) << name;
+                EXPECT_EQ(fontNameOf(findWidget(name)), font) << name;
         });
     });
 }

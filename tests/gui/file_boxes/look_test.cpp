@@ -30,30 +30,13 @@ std::vector<unsigned char> allParts()
     return parts;
 }
 
-// The name of a widget's font, as the server knows it.
-std::string fontOf(Widget widget)
-{
-    XmFontContext context = nullptr;
-    if (!XmFontListInitFontContext(&context, resource<XmFontList>(widget, XmNfontList))) return {};
-    XmFontListEntry const entry = XmFontListNextEntry(context);
-    XmFontType type{};
-    auto* const font = static_cast<XFontStruct*>(XmFontListEntryGetFont(entry, &type));
-    XmFontListFreeFontContext(context);
-    unsigned long name = 0;
-    if (type != XmFONT_IS_FONT || !XGetFontProperty(font, XA_FONT, &name)) return {};
-    char* const text = XGetAtomName(XtDisplayOfObject(widget), name);
-    std::string copy = text;
-    XFree(text);
-    return copy;
-}
-
 void expectFont(const std::string& font)
 {
     for (FileAsk const ask : kBothBoxes)
         look(ask, {}, [&](Shown box) {
             for (const unsigned char part : allParts()) {
                 Widget const widget = filePart(box.widget(), part);
-                EXPECT_EQ(fontOf(widget), font) << XtName(widget);
+                EXPECT_EQ(fontNameOf(widget), font) << XtName(widget);
             }
         });
 }
@@ -188,7 +171,7 @@ GUI_TEST(FileBoxLook, ButtonsAreAsWideAsCancel)
 
 GUI_TEST(FileBoxLook, FontIsTheOneOfTheStatusLine)
 {
-    const std::string font = fontOf(app.find("v_sline"));
+    const std::string font = fontNameOf(app.find("v_sline"));
     EXPECT_EQ(font, "-Adobe-Helvetica-Medium-R-Normal--14-100-100-100-P-76-ISO8859-1");
     expectFont(font);
 }
@@ -207,7 +190,8 @@ GUI_STARTUP_TEST(FileBoxLook, FontIsTheToolkitsWhenThereIsNone)
             Widget const bare =
                 XmCreateFileSelectionDialog(box.widget(), const_cast<char*>("bare"), nullptr, 0);
             for (const unsigned char part : allParts())
-                EXPECT_EQ(fontOf(filePart(box.widget(), part)), fontOf(filePart(bare, part)));
+                EXPECT_EQ(fontNameOf(filePart(box.widget(), part)),
+                          fontNameOf(filePart(bare, part)));
             XtDestroyWidget(XtParent(bare));
         });
     });

@@ -41,19 +41,6 @@ std::string withoutTimes(const std::string& log)
     return std::regex_replace(log, stamp, ": T\n");
 }
 
-std::string fontNameOf(Widget widget, const char* fontListResource)
-{
-    const auto list = resource<XmFontList>(widget, fontListResource);
-    XmFontContext context = nullptr;
-    if (!list || !XmFontListInitFontContext(&context, list)) return {};
-    XmFontListEntry const entry = XmFontListNextEntry(context);
-    XmFontType type = XmFONT_IS_FONT;
-    const void* const font = entry ? XmFontListEntryGetFont(entry, &type) : nullptr;
-    XmFontListFreeFontContext(context);
-    if (type != XmFONT_IS_FONT) return {};
-    return fontNameOf(static_cast<const XFontStruct*>(font));
-}
-
 std::string fontNameFor(const std::string& pattern)
 {
     XFontStruct* const font = XLoadQueryFont(connection(), pattern.c_str());

@@ -17,9 +17,6 @@ std::string contentsOf(const std::string& path);
 // A log in which each date and time is replaced by "T".
 std::string withoutTimes(const std::string& log);
 
-// The full name of the first font of a font list resource; empty when there is none.
-std::string fontNameOf(Widget widget, const char* fontListResource);
-
 // The full name of the font that the server gives for a pattern; empty when there is none.
 std::string fontNameFor(const std::string& pattern);
 

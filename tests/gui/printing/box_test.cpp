@@ -14,18 +14,6 @@
 using namespace kite::testing;
 using ::testing::SizeIs;
 
-namespace {
-
-std::string dialogTitleOf(Widget board)
-{
-    XmString const title = resource<XmString>(board, XmNdialogTitle);
-    const std::string text = toString(title);
-    XmStringFree(title);
-    return text;
-}
-
-}  // namespace
-
 GUI_TEST(PrintBox, IsPaintedBeforeTheCommandRuns)
 {
     // Has its parts.
