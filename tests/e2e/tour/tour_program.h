@@ -15,18 +15,19 @@ namespace kite::testing {
 
 class TourProgram {
 public:
-    TourProgram()
+    explicit TourProgram(const Process::Environment& more = {})
     {
         std::filesystem::current_path(directory_.path());  // the tour saves there
         std::ofstream{path("profile")} << "[tour]\nlogfm = 2\nlogfn = " << path("log") << "\n";
-        start();
+        start(more);
     }
 
-    // Again, once it has ended.
-    void start()
+    // Again, once it has ended. With what is added to the environment.
+    void start(const Process::Environment& more = {})
     {
-        program_.emplace(std::vector<std::string>{TOUR_PROGRAM},
-                         Process::Environment{{"KITE_PROFILE", path("profile")}});
+        Process::Environment all{{"KITE_PROFILE", path("profile")}};
+        all.insert(all.end(), more.begin(), more.end());
+        program_.emplace(std::vector<std::string>{TOUR_PROGRAM}, all);
     }
 
     // Once it has the keyboard and takes commands; 0 when it does not come.
