@@ -18,7 +18,7 @@ function(kite_gui_tests)
   if(NOT TEST_TIMEOUT)
     set(TEST_TIMEOUT 30)
     if(KITEGUI_SANITIZE)
-      set(TEST_TIMEOUT 90)
+      set(TEST_TIMEOUT 180)
     endif()
   endif()
 
