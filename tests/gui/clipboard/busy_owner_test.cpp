@@ -21,16 +21,32 @@ void expectNothingThere(Widget text)
     EXPECT_EQ(textOf(text), before);
 }
 
+// The same one by one, and what appending leaves.
+std::vector<std::function<void()>> callsForNothing(Widget output)
+{
+    return {[] { EXPECT_EQ(guiClipLines(), 0); }, [] { EXPECT_EQ(clipLine(1), "[0]"); },
+            [=] {
+                guiPasteSel(output);
+                EXPECT_EQ(textOf(output), "");
+            },
+            [] {
+                guiCopyAppText("x");
+                EXPECT_EQ(pastedByXclip(), "x\n");
+            }};
+}
+
 }  // namespace
 
 GUI_TEST(BusyOwner, ThatDoesNotAnswerHasNothing)
 {
+    Widget const output = app.find("v_text");
+
     // That is frozen has nothing.
     {
         setSelectionPatience(milliseconds{150});
         Client client{{"own", "STRING", "abc"}};
         client->send(SIGSTOP);
-        expectNothingThere(app.find("v_text"));
+        expectNothingThere(output);
         EXPECT_TRUE(isClipboardFree());
         guiCopyAppText("x");
         EXPECT_EQ(pastedByXclip(), "x\n");
@@ -41,18 +57,7 @@ GUI_TEST(BusyOwner, ThatDoesNotAnswerHasNothing)
     // That dies when it is asked has nothing.
     {
         setSelectionPatience(milliseconds{300});
-        Widget const output = app.find("v_text");
-        const std::function<void()> calls[] = {[] { EXPECT_EQ(guiClipLines(), 0); },
-                                               [] { EXPECT_EQ(clipLine(1), "[0]"); },
-                                               [&] {
-                                                   guiPasteSel(output);
-                                                   EXPECT_EQ(textOf(output), "");
-                                               },
-                                               [] {
-                                                   guiCopyAppText("x");
-                                                   EXPECT_EQ(pastedByXclip(), "x\n");
-                                               }};
-        for (const auto& call : calls) {
+        for (const auto& call : callsForNothing(output)) {
             Client client{{"own-and-die", "STRING", "abc"}};
             call();
             EXPECT_TRUE(client->wait());
@@ -62,18 +67,7 @@ GUI_TEST(BusyOwner, ThatDoesNotAnswerHasNothing)
 
     // It has told the length, and then has nothing to give.
     {
-        Widget const output = app.find("v_text");
-        const std::function<void()> calls[] = {[] { EXPECT_EQ(guiClipLines(), 0); },
-                                               [] { EXPECT_EQ(clipLine(1), "[0]"); },
-                                               [&] {
-                                                   guiPasteSel(output);
-                                                   EXPECT_EQ(textOf(output), "");
-                                               },
-                                               [] {
-                                                   guiCopyAppText("x");
-                                                   EXPECT_EQ(pastedByXclip(), "x\n");
-                                               }};
-        for (const auto& call : calls) {
+        for (const auto& call : callsForNothing(output)) {
             const Client client{{"own-and-clear", "STRING", "abc"}};
             call();
             EXPECT_TRUE(isClipboardFree());
