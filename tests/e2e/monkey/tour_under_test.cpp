@@ -31,6 +31,7 @@ Process::Environment environmentIn(const std::string& directory)
     return {{"KITE_PROFILE", directory + "/profile"},
             {"HOME", directory},
             {"LD_PRELOAD", TOLD_WARNINGS},
+            {"GCOV_PREFIX", directory},  // where a build that records coverage may write
             {"ASAN_OPTIONS", sanitizer}};
 }
 
