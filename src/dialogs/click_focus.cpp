@@ -2,6 +2,8 @@
 
 #include <Xm/Xm.h>
 
+#include "toolkit/soon.h"
+
 namespace kite {
 
 namespace {
@@ -15,10 +17,16 @@ void pressed(Widget control, XtPointer, XEvent* event, Boolean*)
 }
 
 // It keeps the focus that only the window has lost.
+void leave(Widget control)
+{
+    if (XmGetFocusWidget(control) != control)
+        XtVaSetValues(control, XmNtraversalOn, False, nullptr);
+}
+
+// While the focus moves, the toolkit still takes the control for the one that has it.
 void focusChanged(Widget control, XtPointer, XEvent* event, Boolean*)
 {
-    if (event->type == FocusOut && event->xfocus.send_event && XmGetFocusWidget(control) != control)
-        XtVaSetValues(control, XmNtraversalOn, False, nullptr);
+    if (event->type == FocusOut) soon(control, leave);
 }
 
 }  // namespace

@@ -5,10 +5,9 @@
 #include <Xm/SpinBP.h>
 #include <Xm/ToggleBP.h>
 
-#include <memory>
-
 #include "toolkit/nested_loop.h"
 #include "toolkit/never_destroyed.h"
+#include "toolkit/soon.h"
 #include "toolkit/widget_ref.h"
 
 namespace kite {
@@ -65,17 +64,9 @@ void letGo(Widget widget)
         letGoOfButton(widget);
 }
 
-void clickDone(XtPointer data, XtIntervalId*)
+void clickDone(Widget widget)
 {
-    const std::unique_ptr<WidgetRef> control{static_cast<WidgetRef*>(data)};
-    Widget const widget = control->get();
-    if (widget && XtIsRealized(widget) && !isMouseHeld(widget)) letGo(widget);
-}
-
-void onceItIsDone(Widget widget)
-{
-    auto later = std::make_unique<WidgetRef>(widget);
-    XtAppAddTimeOut(XtWidgetToApplicationContext(widget), 0, clickDone, later.release());
+    if (XtIsRealized(widget) && !isMouseHeld(widget)) letGo(widget);
 }
 
 // The part that the mouse button was pressed on and not yet released.
@@ -105,14 +96,14 @@ void loopBegins()
 
 void loopEnded()
 {
-    if (held) onceItIsDone(held.get());
+    if (held) soon(held.get(), clickDone);
 }
 
 }  // namespace
 
 void letGoLater(Widget control)
 {
-    if (XmIsPushButton(control) || XmIsToggleButton(control)) onceItIsDone(control);
+    if (XmIsPushButton(control) || XmIsToggleButton(control)) soon(control, clickDone);
 }
 
 void letGoOfWhatIsHeld(Widget part)
