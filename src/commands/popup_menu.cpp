@@ -13,12 +13,13 @@
 #include "boxes/misuse.h"
 #include "commands/command_checks.h"
 #include "commands/menu_levels.h"
-#include "controls/control_lookup.h"
 #include "dialogs/building.h"
+#include "dialogs/control_lookup.h"
 #include "dialogs/dialog_font.h"
 #include "dialogs/layout_metrics.h"
 #include "frame/frame_fonts.h"
 #include "frame/top_window.h"
+#include "toolkit/free_traversal.h"
 #include "toolkit/menu_keys.h"
 #include "toolkit/nested_loop.h"
 #include "toolkit/never_destroyed.h"
@@ -146,6 +147,7 @@ int show(Popup& popup, Point place)
     takeDown(waiting);
     Popup* const outer = std::exchange(waiting, &popup);
     Widget const menu = popup.menu.get();
+    const FreeTraversal traversal{menu};
     XButtonPressedEvent press{};
     press.x_root = withinReach(place.x, WidthOfScreen(XtScreen(menu)));
     press.y_root = withinReach(place.y, HeightOfScreen(XtScreen(menu)));

@@ -62,7 +62,7 @@ void forgetTopWindowOf(const Display* display)
 }
 
 TopWindowScope::TopWindowScope(Widget window)
-    : previous_(topWindow()), hadPrevious_(static_cast<bool>(previous_))
+    : traversal_(window), previous_(topWindow()), hadPrevious_(static_cast<bool>(previous_))
 {
     setTopWindow(window);
 }

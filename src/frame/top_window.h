@@ -4,6 +4,7 @@
 
 #include <X11/Intrinsic.h>
 
+#include "toolkit/free_traversal.h"
 #include "toolkit/widget_ref.h"
 
 namespace kite {
@@ -25,7 +26,8 @@ XtAppContext servedApplication();
 // The display is about to be closed: forgets a top window there.
 void forgetTopWindowOf(const Display* display);
 
-// Makes a widget the top window, and restores the previous one at the end, when that one still exists.
+// Makes a widget the top window, which has the keyboard, and restores the previous one at the end, when that one
+// still exists.
 class TopWindowScope {
 public:
     explicit TopWindowScope(Widget window);
@@ -35,6 +37,7 @@ public:
     TopWindowScope& operator=(const TopWindowScope&) = delete;
 
 private:
+    FreeTraversal traversal_;
     WidgetRef previous_;
     bool hadPrevious_;
 };
