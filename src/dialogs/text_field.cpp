@@ -4,6 +4,7 @@
 
 #include "frame/focus_leave.h"
 #include "frame/hover.h"
+#include "toolkit/displayable_text.h"
 #include "toolkit/insertion_cursor.h"
 #include "toolkit/resources.h"
 
@@ -26,6 +27,7 @@ Widget fieldOf(Widget composed)
 
 void noteTyping(Widget field, Tag tag)
 {
+    XtVaSetValues(field, XmNmaxLength, kLongestEditableText, nullptr);
     showInsertionCursorWithFocus(field);
     XtAddCallback(field, XmNlosingFocusCallback, left, tag.userData());
 }

@@ -4,6 +4,7 @@
 #include <Xm/TextF.h>
 #include <kitegui.h>
 
+#include <algorithm>
 #include <cstring>
 #include <string_view>
 
@@ -11,6 +12,7 @@
 #include "frame/top_window.h"
 #include "output/copied_text.h"
 #include "toolkit/clipboard.h"
+#include "toolkit/displayable_text.h"
 #include "toolkit/shells.h"
 #include "toolkit/text_selection.h"
 #include "toolkit/widget_ref.h"
@@ -47,10 +49,21 @@ bool copySelection(Widget text)
 XmTextPosition removeSelection(Widget text)
 {
     if (!hasUsableSelection(text)) return XmTextGetInsertionPosition(text);
-    const XmTextPosition left = selectionOf(text).left;
-    XmTextRemove(text);
+    const auto [left, right] = selectionOf(text);
+    if (!XmTextRemove(text)) XmTextReplace(text, left, right, const_cast<char*>(""));  // read-only
     XmTextSetInsertionPosition(text, left);
     return left;
+}
+
+// As much as the field can hold of it. Calls of the program's may go beyond what the toolkit can show.
+char* fitting(TextCopy& pasted, Widget text)
+{
+    if (!XmIsTextField(text)) return pasted.bytes.get();
+    const auto room =
+        std::max<XmTextPosition>(0, kLongestEditableText - XmTextGetLastPosition(text));
+    if (pasted.length > static_cast<std::size_t>(room))
+        pasted.bytes[static_cast<std::size_t>(room)] = '\0';
+    return pasted.bytes.get();
 }
 
 // A dialog that is about to be shown has no window yet.
@@ -85,8 +98,8 @@ void guiPasteSel(GuiWidget text)
     if (!isText(text)) return;
     const WidgetRef alive{text};
     const XmTextPosition position = removeSelection(text);
-    const TextCopy pasted = plainTextFor(topWindow());
+    TextCopy pasted = plainTextFor(topWindow());
     if (!pasted.bytes || !alive) return;
-    XmTextInsert(text, position, pasted.bytes.get());
+    XmTextInsert(text, position, fitting(pasted, text));
     if (alive) XmTextSetInsertionPosition(text, position);
 }

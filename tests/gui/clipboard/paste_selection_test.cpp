@@ -76,6 +76,21 @@ GUI_TEST(PasteSelection, InsertsWhatIsThere)
     }
 }
 
+// To the host's calls all texts are its own; only cutting is the user's.
+GUI_TEST(PasteSelection, GoesIntoReadOnlyTexts)
+{
+    const Client client{{"own", "STRING", "XYZ"}};
+    withTexts([&](Widget text) {
+        fill(text, 0);
+        XmTextSetEditable(text, False);
+        select(text, 4, 6);
+        guiPasteSel(text);
+        EXPECT_EQ(textOf(text), "one XYZo");
+        EXPECT_EQ(XmTextGetInsertionPosition(text), 4);
+        XmTextSetEditable(text, True);
+    });
+}
+
 GUI_TEST(PasteSelection, IsAChangeOfTheText)
 {
     // Pastes what the library has copied.
