@@ -51,15 +51,27 @@ void expectPlaces(const Units& units)
     }
 }
 
+struct FirstFont {
+    XmFontType type;
+    XtPointer font;
+};
+
 // The first font of the list, in which a widget writes.
+FirstFont firstFontOf(XmFontList list)
+{
+    FirstFont first{};
+    XmFontContext context = nullptr;
+    if (!XmFontListInitFontContext(&context, list)) return first;
+    XmFontListEntry const entry = XmFontListNextEntry(context);
+    first.font = XmFontListEntryGetFont(entry, &first.type);
+    XmFontListFreeFontContext(context);
+    return first;
+}
+
 std::string nameOfFirstFont(XmFontList list)
 {
-    XmFontContext context = nullptr;
-    if (!XmFontListInitFontContext(&context, list)) return {};
-    XmFontType type{};
-    XmFontListEntry const entry = XmFontListNextEntry(context);
-    XtPointer const font = XmFontListEntryGetFont(entry, &type);
-    XmFontListFreeFontContext(context);
+    const auto [type, font] = firstFontOf(list);
+    if (!font) return {};
     unsigned long name = 0;
     if (type == XmFONT_IS_FONTSET) {
         XFontStruct** fonts = nullptr;
@@ -72,6 +84,23 @@ std::string nameOfFirstFont(XmFontList list)
     std::string copy = text;
     XFree(text);
     return copy;
+}
+
+constexpr char kNoFont[] = "-no-such-font-*-*-*--14-*-*-*-*-*-*-*";
+
+// As from a resource file of the user's.
+void addResources(std::initializer_list<std::pair<const char*, const char*>> resources)
+{
+    XrmDatabase database = XtDatabase(toolkit::display());
+    for (const auto& [name, value] : resources) XrmPutStringResource(&database, name, value);
+}
+
+// What dialogs have without a font of the profile.
+void lookAtFont(const std::function<void(XmFontList)>& look)
+{
+    ASSERT_EQ(guiDialog("Units"), 0);
+    look(resource<XmFontList>(board(), XmNlabelFontList));
+    guiClose(0);
 }
 
 }  // namespace
@@ -99,12 +128,43 @@ GUI_STARTUP_TEST(DialogUnits, GrowWithAProportionalFontOfTheProfile)
 
 GUI_STARTUP_TEST(DialogUnits, GrowWithTheToolkitsFontWhenThereIsNone)
 {
-    host.profile().setString("fnamm", "-no-such-font-*-*-*--14-*-*-*-*-*-*-*");
+    host.profile().setString("fnamm", kNoFont);
     app.run([] {
-        ASSERT_EQ(guiDialog("Units"), 0);
-        const std::string font = nameOfFirstFont(resource<XmFontList>(board(), XmNlabelFontList));
-        guiClose(0);
+        std::string font;
+        lookAtFont([&](XmFontList list) { font = nameOfFirstFont(list); });
         expectPlaces(unitsOf(font));
+    });
+}
+
+GUI_STARTUP_TEST(DialogUnits, GrowWithTheFirstFontOfASet)
+{
+    host.profile().setString("fnamm", kNoFont);
+    app.run([] {
+        addResources({{"*v_dlgbbr.labelFontList", "-misc-fixed-medium-r-normal--20-*:"}});
+        lookAtFont([](XmFontList list) { EXPECT_EQ(firstFontOf(list).type, XmFONT_IS_FONTSET); });
+        expectPlaces(unitsOf(kLargeFont));
+    });
+}
+
+// Its letters are no fonts of the server's.
+GUI_STARTUP_TEST(DialogUnits, GrowWithASmoothFont)
+{
+    host.profile().setString("fnamm", kNoFont);
+    app.run([] {
+        addResources({{"*v_dlgbbr.labelRenderTable", "smooth"},
+                      {"*smooth.fontType", "FONT_IS_XFT"},
+                      {"*smooth.fontName", "Sans"},
+                      {"*smooth.fontSize", "20"}});
+        Units units;
+        lookAtFont([&](XmFontList list) {
+            EXPECT_EQ(firstFontOf(list).type, XmFONT_IS_XFT);
+            XmString const letters = XmStringCreateLocalized(
+                const_cast<char*>("abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ"));
+            const double width = XmStringWidth(list, letters);
+            units = {((width / 26.0 + 1.0) / 2.0) / 4.0, (XmStringHeight(list, letters) + 1) / 8.0};
+            XmStringFree(letters);
+        });
+        expectPlaces(units);
     });
 }
 

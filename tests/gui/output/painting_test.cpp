@@ -168,6 +168,20 @@ GUI_STARTUP_TEST(Painting, IsDoneInALoopOfTheHosts)
     expectPainted("own loop");
 }
 
+// No event comes meanwhile.
+GUI_STARTUP_TEST(Painting, IsDoneByTheTimeAlone)
+{
+    static bool isOver;
+    isOver = false;
+    app.init();
+    settle();
+    writeMany(5);
+    XtAppAddTimeOut(
+        toolkit::context(), 100, [](XtPointer, XtIntervalId*) { isOver = true; }, nullptr);
+    while (!isOver) XtAppProcessEvent(toolkit::context(), XtIMTimer);
+    expectPainted("the time-out");
+}
+
 GUI_STARTUP_TEST(Painting, IsDoneOnTheFirstInput)
 {
     app.init();
