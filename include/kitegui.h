@@ -25,7 +25,8 @@
  *   - Order: guiSetAppInfo (optional), guiInit, guiStart. A call that needs the frame and comes
  *     before guiInit, or after the frame was closed, does nothing and returns its failure value.
  *   - Strings: null-terminated bytes in the encoding of the fonts in use (ISO 8859-1 by default). A
- *     host that calls setlocale gets that locale's encoding in text fields and titles, as in all of Motif.
+ *     host that calls setlocale gets that locale's encoding in text fields and titles, as in all of Motif: there
+ *     a text ends before the first byte that is none of the encoding.
  *     The library copies what it keeps. A null pointer is safe wherever a string is taken; each
  *     function says what it means.
  *   - Buffers: (char *buffer, int size) receive at most size - 1 bytes and are always terminated.
@@ -623,14 +624,15 @@ KITEGUI_API int guiPasteText(char *buffer, int size, int line);
 /*
  * These work on a text widget of the host's own, or one of the library's (XmText, XmTextField); for others they do
  * nothing. The first two do nothing when nothing is selected, and guiCutSel removes nothing that it could not
- * copy.
+ * copy, nor from a read-only text.
  */
 KITEGUI_API void guiCopySel(GuiWidget text);
 KITEGUI_API void guiCutSel(GuiWidget text);
 
 /*
  * Removes the selection, inserts the "STRING" on the clipboard there, or at the insertion point, and leaves the
- * insertion point before it. An empty clipboard inserts nothing.
+ * insertion point before it, in a read-only text as well. An empty clipboard inserts nothing. An XmTextField takes up
+ * to 250,000 bytes, which is what X can draw.
  */
 KITEGUI_API void guiPasteSel(GuiWidget text);
 
@@ -846,7 +848,7 @@ KITEGUI_API int guiChoice(int id, int row, int x, int width);
  * The same with a text to type in: "Edit: cannot create control %d". Raises GUI_EVENT_TEXT_CHANGED whenever
  * the text changes, and GUI_EVENT_VALUE when an item is picked, and again when a text that was typed is left:
  * with the position that is selected in the list (0 when none is), and behind GUI_EVENT_LEFT when the keyboard
- * moved it on.
+ * moved it on. The text has at most 250,000 bytes, which is what X can draw.
  */
 KITEGUI_API int guiCombo(int id, int row, int x, int width);
 
@@ -910,8 +912,9 @@ KITEGUI_API void guiEnable(int id, int enable);
 
 /*
  * Gives the keyboard to a control; during GUI_EVENT_INIT: when the dialog is shown. In the handler of
- * GUI_EVENT_LEFT it sends the user back; no GUI_EVENT_LEFT comes of that. Not for labels, lines, images and
- * progress bars.
+ * GUI_EVENT_LEFT it sends the user back; no GUI_EVENT_LEFT comes of that, unless the handler has shown a box before:
+ * the control that the user went to has been left for the box then, and tells of it. Not for labels, lines, images
+ * and progress bars.
  */
 KITEGUI_API void guiSetFocus(int id);
 
@@ -1349,7 +1352,8 @@ KITEGUI_API int guiEditorBox(const char *title);
 
 /*
  * Copies the next line, without its line end and carriage returns, into the buffer. Of a line of size - 1 bytes or
- * more, the next call returns the rest, which may be nothing but the line end: 0 then.
+ * more, the next call returns the rest, which may be nothing but the line end: 0 then. (A last line without a line end
+ * has no such rest.)
  *
  * Returns the length. With the last line the text is emptied: the next call returns -1. -1 after "EditorGetLine:
  * invalid buffer" for a null buffer or a size below 2.
@@ -1373,7 +1377,7 @@ KITEGUI_API int guiEditorGetLine(char *buffer, int size);
  *   buffer     the file to begin with, or empty; receives the path, at most size - 1 bytes
  *
  * A path is at most 1023 bytes long. When the profile key "cddir" is 1, the directory of the chosen file becomes the
- * working directory.
+ * working directory: a relative path, which only a user can type, no longer leads to the file then.
  *
  * Returns the length of the path; -1, the buffer empty, when the user gave up (also by choosing nothing, or a path
  * that ends in "/") and when the path does not fit; -1 after "OpenFileBox: invalid buffer" for a null buffer or a
@@ -1407,8 +1411,8 @@ KITEGUI_API int guiGetDefPrnPage(void);
  *   a2 to a7  not used
  *   wrap      1 or 2: long lines are wrapped
  *
- * Returns 0 when the command was run, whatever came of it; -1 for a null or empty file, an empty command or a
- * command line of more than 2047 bytes; -1 after "Could not execute print command".
+ * Returns 0 when the command was run, whatever came of it; -1 for a null or empty file, an empty command, a command
+ * line of more than 2047 bytes, and where there is no window that the box could belong to; -1 after "Could not execute print command".
  */
 KITEGUI_API int guiPrintFile(const char *file, int a2, int a3, int a4, int a5, int a6, int a7,
                              int wrap);
@@ -1434,7 +1438,7 @@ void kxGetUPStr(const char *section, const char *key, char *buffer, int size);
 /* The application directory, ending with a path separator: images are looked for below it. */
 const char *kxAppDir(void);
 
-/* The full path name of a file. The library copies the result at once. */
+/* The full path name of a file. The library copies the result at once; null counts as empty. */
 const char *kxFullName(const char *path);
 
 /* The index in the path at which the file name begins, behind the directory. */

@@ -9,6 +9,7 @@
 #include "frame/host_services.h"
 #include "toolkit/argument_list.h"
 #include "toolkit/colours.h"
+#include "toolkit/host_buffer.h"
 #include "toolkit/insertion_cursor.h"
 #include "toolkit/xt_string.h"
 
@@ -25,7 +26,7 @@ constexpr int kTextMargin = 2;
 std::string directoryOf(const std::string& file)
 {
     if (file.empty()) return {};
-    const std::string path = kxFullName(file.c_str());
+    const std::string path = orEmpty(kxFullName(file.c_str()));
     const int nameStart = std::max(0, kxLocNamePos(path.c_str()));
     return path.substr(0, static_cast<std::size_t>(nameStart));
 }

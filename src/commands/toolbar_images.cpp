@@ -4,6 +4,7 @@
 
 #include "commands/command_room.h"
 #include "frame/host_services.h"
+#include "toolkit/host_buffer.h"
 #include "toolkit/screen_pen.h"
 
 namespace kite::commands {
@@ -34,10 +35,7 @@ Points checkerboard()
 std::string imagePath(const char* image)
 {
     std::string& directory = room().imageDirectory;
-    if (directory.empty()) {
-        const char* const application = kxAppDir();
-        directory = std::string{application ? application : ""}.append(kDirectory);
-    }
+    if (directory.empty()) directory = std::string{orEmpty(kxAppDir())}.append(kDirectory);
     return directory + image + kSuffix;
 }
 

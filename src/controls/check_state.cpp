@@ -3,7 +3,7 @@
 #include <Xm/ToggleB.h>
 #include <kitegui.h>
 
-#include "controls/control_lookup.h"
+#include "dialogs/control_lookup.h"
 #include "frame/dispatcher.h"
 
 namespace {

@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "controls/control_lookup.h"
+#include "dialogs/control_lookup.h"
 #include "output/text_attribute.h"
 
 namespace kite {

@@ -5,7 +5,7 @@
 
 #include <vector>
 
-#include "controls/control_lookup.h"
+#include "dialogs/control_lookup.h"
 
 namespace kite {
 

@@ -9,11 +9,11 @@
 #include <string>
 
 #include "boxes/misuse.h"
-#include "controls/control_lookup.h"
 #include "controls/control_text.h"
 #include "controls/drop_down_selection.h"
 #include "controls/items.h"
 #include "controls/list_selection.h"
+#include "dialogs/control_lookup.h"
 #include "toolkit/outline.h"
 #include "toolkit/resources.h"
 

@@ -5,8 +5,8 @@
 #include <cstdlib>
 
 #include "boxes/misuse.h"
-#include "controls/control_lookup.h"
 #include "controls/control_text.h"
+#include "dialogs/control_lookup.h"
 #include "toolkit/host_buffer.h"
 
 namespace kite {

@@ -3,8 +3,9 @@
 #include <Xm/Text.h>
 #include <kitegui.h>
 
-#include "controls/control_lookup.h"
+#include "dialogs/control_lookup.h"
 #include "frame/dispatcher.h"
+#include "toolkit/host_buffer.h"
 #include "toolkit/text_positions.h"
 
 namespace kite {
@@ -34,5 +35,5 @@ using namespace kite;
 void guiInsertText(int id, const char* text)
 {
     if (const Control control = findControl("InsertText", id, {ControlType::Text}))
-        insert(control.widget, text ? text : "");
+        insert(control.widget, orEmpty(text));
 }

@@ -7,7 +7,7 @@
 #include <optional>
 #include <string>
 
-#include "controls/control_lookup.h"
+#include "dialogs/control_lookup.h"
 
 namespace kite {
 

@@ -8,7 +8,7 @@
 #include <new>
 
 #include "boxes/misuse.h"
-#include "controls/control_lookup.h"
+#include "dialogs/control_lookup.h"
 #include "frame/dispatcher.h"
 #include "toolkit/held_redisplay.h"
 #include "toolkit/host_buffer.h"
@@ -79,7 +79,7 @@ void guiAppendLine(int id, const char* text)
 {
     const Control control = findControl("AppendLine", id, kTexts);
     if (!control) return;
-    if (const auto line = withLineEnd(text ? text : ""))
+    if (const auto line = withLineEnd(orEmpty(text)))
         append(control.widget, line.get());
     else
         reportMisuse("AppendLine: out of memory");
@@ -91,5 +91,5 @@ void guiAppendHTML(int id, const char* html)
     const Control control = findControl("AppendItem", id, kTexts);
     if (!control) return;
     const EventsSuppressed quiet;
-    guiHTML2Rich(control.widget, html ? html : "");
+    guiHTML2Rich(control.widget, orEmpty(html));
 }

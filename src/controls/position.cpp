@@ -16,10 +16,10 @@
 
 #include <algorithm>
 
-#include "controls/control_lookup.h"
 #include "controls/list_top.h"
 #include "controls/text_lines.h"
 #include "controls/value_range.h"
+#include "dialogs/control_lookup.h"
 #include "dialogs/first_visible.h"
 #include "frame/dispatcher.h"
 #include "toolkit/outline.h"

@@ -5,8 +5,8 @@
 
 #include <climits>
 
-#include "controls/control_lookup.h"
 #include "controls/value_range.h"
+#include "dialogs/control_lookup.h"
 #include "frame/dispatcher.h"
 
 namespace kite {

@@ -6,8 +6,8 @@
 #include <algorithm>
 
 #include "boxes/misuse.h"
-#include "controls/control_lookup.h"
 #include "controls/shown_picture.h"
+#include "dialogs/control_lookup.h"
 #include "frame/dispatcher.h"
 #include "images/image_loader.h"
 #include "toolkit/paint_now.h"

@@ -10,13 +10,14 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "controls/control_lookup.h"
 #include "controls/drop_down_selection.h"
 #include "controls/edited_text.h"
 #include "controls/value_range.h"
+#include "dialogs/control_lookup.h"
 #include "dialogs/text_field.h"
 #include "frame/dispatcher.h"
 #include "toolkit/compound_string.h"
+#include "toolkit/host_buffer.h"
 #include "toolkit/label_text.h"
 #include "toolkit/paint_now.h"
 #include "toolkit/resources.h"
@@ -100,7 +101,7 @@ using namespace kite;
 void guiSetText(int id, const char* text)
 {
     if (const Control control = findControl("SetText", id, kWithText))
-        setText(control, text ? text : "");
+        setText(control, orEmpty(text));
 }
 
 void guiSetTextDbl(int id, double value)

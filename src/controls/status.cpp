@@ -3,8 +3,8 @@
 #include <X11/Intrinsic.h>
 #include <kitegui.h>
 
-#include "controls/control_lookup.h"
 #include "controls/hidden_text.h"
+#include "dialogs/control_lookup.h"
 #include "dialogs/dialog_run.h"
 #include "dialogs/late_focus.h"
 #include "frame/dispatcher.h"

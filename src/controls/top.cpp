@@ -3,9 +3,9 @@
 #include <Xm/Text.h>
 #include <kitegui.h>
 
-#include "controls/control_lookup.h"
 #include "controls/list_top.h"
 #include "controls/text_lines.h"
+#include "dialogs/control_lookup.h"
 #include "dialogs/first_visible.h"
 
 namespace kite {

@@ -4,8 +4,8 @@
 #include <Xm/IconG.h>
 #include <kitegui.h>
 
-#include "controls/control_lookup.h"
 #include "controls/tree_items.h"
+#include "dialogs/control_lookup.h"
 #include "frame/dispatcher.h"
 #include "toolkit/compound_string.h"
 #include "toolkit/outline.h"

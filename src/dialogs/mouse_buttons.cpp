@@ -6,6 +6,7 @@
 #include <Xm/Xm.h>
 #include <kitegui.h>
 
+#include "dialogs/control_lookup.h"
 #include "dialogs/text_field.h"
 #include "frame/dispatcher.h"
 #include "frame/focus_leave.h"
@@ -69,6 +70,7 @@ void released(Widget widget, XtPointer data, XEvent* event, Boolean*)
     const bool isImage = tag.type() == ControlType::Image;
     if (button.button != Button3 && !(isImage && button.button == Button1)) return;
     hover::cancel();
+    if (!findControl("Mouse", tag.id())) return;
     if (isImage)
         reportClickOnPicture(widget, tag.id(), button);
     else

@@ -6,6 +6,7 @@
 
 #include "frame/built_in_icon.h"
 #include "frame/host_services.h"
+#include "toolkit/host_buffer.h"
 #include "toolkit/pixmaps.h"
 
 namespace kite::frame {
@@ -24,9 +25,7 @@ State state;
 
 images::Picture loadFile(Screen* screen, const char* name, Pixel undrawn)
 {
-    const char* const directory = kxAppDir();
-    return images::load(screen, std::string{directory ? directory : ""} + "images/" + name,
-                        undrawn);
+    return images::load(screen, std::string{orEmpty(kxAppDir())} + "images/" + name, undrawn);
 }
 
 images::Picture loadForShell(Widget shell, const char* name)

@@ -11,7 +11,6 @@
 #include "frame/focus_leave.h"
 #include "frame/frame_widgets.h"
 #include "frame/main_frame.h"
-#include "toolkit/argument_list.h"
 #include "toolkit/resources.h"
 
 namespace kite::frame {
@@ -79,15 +78,11 @@ void manageButtons(Widget toolbar)
     XtManageChildren(buttons, resource<Cardinal>(toolbar, XmNnumChildren));
 }
 
-// Before they are managed: the main window gives no place to a toolbar that it does not know as one. And
-// only what changes: it warns of every change while a toolbar that it knows is about to be destroyed.
-void install(const Widgets& frame, bool hasToolbar)
+// Before it is managed: the main window gives no place to a toolbar that it does not know as one. The menu bar it
+// knows by itself.
+void install(const Widgets& frame)
 {
-    ArgumentList changes;
-    if (resource<Widget>(frame.mainWindow, XmNmenuBar) != frame.menuBar)
-        changes.set(XmNmenuBar, frame.menuBar);
-    if (hasToolbar) changes.set(XmNcommandWindow, frame.toolbar);
-    if (changes.size() > 0) XtSetValues(frame.mainWindow, changes.data(), changes.size());
+    XtVaSetValues(frame.mainWindow, XmNcommandWindow, frame.toolbar, nullptr);
 }
 
 }  // namespace
@@ -102,7 +97,7 @@ void show()
     const bool hasToolbar = hasToolbarButtons(widgets());
     if (!hasToolbar && widgets().toolbar) dropToolbar();
     const Widgets& frame = widgets();
-    install(frame, hasToolbar);
+    if (hasToolbar) install(frame);
     if (frame.menuBar) manageMenuBar(frame.menuBar);
     if (hasToolbar) manageButtons(frame.toolbar);
     if (hasToolbar) XtManageChild(frame.toolbar);

@@ -68,10 +68,7 @@ int loopsRunning()
 
 void whenLoopsAre(int most, const std::function<void()>& work)
 {
-    if (running <= most)
-        work();
-    else
-        waiting.push_back({most, work});
+    waiting.push_back({most, work});
 }
 
 int loopsBegun()

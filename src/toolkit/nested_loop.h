@@ -16,7 +16,7 @@ bool isProcessingEvents();
 // How many of them run now, one inside the other.
 int loopsRunning();
 
-// Does the work as soon as no more than `most` loops run, or now.
+// More than `most` loops run: does the work as soon as no more do.
 void whenLoopsAre(int most, const std::function<void()>& work);
 
 // How many of them have begun so far: a call during which the number grows has let the user do things.

@@ -61,6 +61,7 @@ const char* kxAppDir(void)
 const char* kxFullName(const char* path)
 {
     static std::string full;
+    if (!HostDouble::instance().knowsFullNames()) return nullptr;
     full = std::filesystem::absolute(path).lexically_normal().string();
     return full.c_str();
 }

@@ -41,6 +41,10 @@ public:
     const std::string& appDirName() const { return appDirName_; }
     void setAppDirName(const std::string& name) { appDirName_ = name; }
 
+    // The host knows no full names: null.
+    void forgetFullNames() { knowsFullNames_ = false; }
+    bool knowsFullNames() const { return knowsFullNames_; }
+
     // Makes a file below the application directory, with the folders that it needs.
     std::filesystem::path addFile(const std::string& name, const std::string& contents);
 
@@ -59,6 +63,7 @@ private:
     Profile profile_;
     TemporaryDirectory directory_{"app"};
     std::string appDirName_ = directory_.path().string() + '/';
+    bool knowsFullNames_ = true;
     std::vector<ExecCall> commands_;
     std::function<int(const std::string&)> onExec_;  // takes the place of the fixed result
     int execResult_ = 0;

@@ -185,3 +185,14 @@ GUI_TEST(FileBoxArguments, FileTooLongForTheSystemIsShownAllTheSame)
              [&](Shown box) { EXPECT_EQ(selectionOf(box), initial); });
     }
 }
+
+// Which leaves the directory open in which the box begins.
+GUI_TEST(FileBoxArguments, FullNameMayBeUnknownToTheHost)
+{
+    const FileTree tree;
+    host.forgetFullNames();
+    for (const FileAsk ask : kBothBoxes) {
+        look(ask, {.initial = "sub/inner.txt"},
+             [](Shown box) { EXPECT_EQ(selectionOf(box), "sub/inner.txt"); });
+    }
+}

@@ -251,6 +251,31 @@ GUI_TEST(Context, LeavesTheKeyboardWhereItIs)
         });
 }
 
+// Controls are those of the top window.
+GUI_TEST(Context, OfAControlThatIsNotThereIsMisuse)
+{
+    runDialog([] { guiButton(kButton, 1, 0, kWidth, "Button", 0); },
+              [](Shown) {
+                  Widget const dialog = guiGetTopWnd();
+                  Widget const button = controlOf(kButton);
+                  Widget const other = findWidget("v_text");
+                  const auto clickWithTop = [&](Widget top) {
+                      guiSetTopWnd(top);
+                      Recorder::instance().clear();
+                      const auto errors =
+                          errorsDuring([&] { Robot::instance().click(button, RightButton); });
+                      EXPECT_THAT(Recorder::instance().events(), IsEmpty());
+                      guiSetTopWnd(dialog);
+                      return errors;
+                  };
+                  EXPECT_THAT(clickWithTop(findWidget("v_mainwnd")),
+                              ElementsAre("Mouse: no dialog"));
+                  EXPECT_THAT(clickWithTop(other),
+                              ElementsAre("Mouse: no control with id 3 in the dialog"));
+                  EXPECT_THAT(eventsOfClick(button, {4, 4}), ElementsAre(context(kButton, 4, 4)));
+              });
+}
+
 GUI_STARTUP_TEST(Context, EndsTheHovering)
 {
     host.profile().setString("mouse_hover", "0.4");

@@ -1,11 +1,11 @@
-#include "controls/control_lookup.h"
+#include "dialogs/control_lookup.h"
 
 #include <Xm/ScrolledW.h>
 
 #include <cstring>
 
 #include "boxes/misuse.h"
-#include "controls/control_index.h"
+#include "dialogs/control_index.h"
 #include "frame/top_window.h"
 #include "toolkit/resources.h"
 

@@ -1,4 +1,4 @@
-#include "controls/control_index.h"
+#include "dialogs/control_index.h"
 
 #include <unordered_map>
 
