@@ -1,12 +1,34 @@
 // bmp_fuzz.cpp: arbitrary bytes as a BMP file. The rows that come out must be what a sink relies on.
 
+#include <algorithm>
 #include <cstdlib>
+#include <utility>
 
 #include "images/bmp.h"
+#include "images/byte_source.h"
 
 using namespace kite::images;
 
 namespace {
+
+class MemorySource final : public ByteSource {
+public:
+    explicit MemorySource(std::span<const std::uint8_t> bytes) : bytes_(bytes), rest_(bytes) {}
+
+    std::uint64_t size() const override { return bytes_.size(); }
+
+private:
+    std::span<const std::uint8_t> nextChunk() override { return std::exchange(rest_, {}); }
+
+    bool moveTo(std::uint64_t offset) override
+    {
+        rest_ = bytes_.subspan(static_cast<std::size_t>(std::min<std::uint64_t>(offset, size())));
+        return true;
+    }
+
+    std::span<const std::uint8_t> bytes_;
+    std::span<const std::uint8_t> rest_;
+};
 
 // Larger pictures cost time and nothing else is different about them.
 constexpr int kMostPixels = 1 << 16;

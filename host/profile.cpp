@@ -50,7 +50,6 @@ Profile::Profile(std::string text)
 }
 
 Profile::~Profile() = default;
-Profile::Profile(Profile&&) noexcept = default;
 Profile& Profile::operator=(Profile&&) noexcept = default;
 
 bool Profile::isDamaged() const

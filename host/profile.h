@@ -13,7 +13,6 @@ public:
     // A damaged text makes an empty profile.
     explicit Profile(std::string text);
     ~Profile();
-    Profile(Profile&&) noexcept;
     Profile& operator=(Profile&&) noexcept;
 
     bool isDamaged() const;

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <utility>
 
 namespace kite::images {
 
@@ -39,17 +38,6 @@ bool ByteSource::seek(std::uint64_t offset)
     chunkOffset_ = offset;
     position_ = 0;
     return moveTo(offset);
-}
-
-std::span<const std::uint8_t> MemorySource::nextChunk()
-{
-    return std::exchange(rest_, {});
-}
-
-bool MemorySource::moveTo(std::uint64_t offset)
-{
-    rest_ = bytes_.subspan(static_cast<std::size_t>(std::min<std::uint64_t>(offset, size())));
-    return true;
 }
 
 }  // namespace kite::images

@@ -1,4 +1,4 @@
-// byte_source.h: the bytes of a file or of memory, one after the other, and whether they sufficed.
+// byte_source.h: the bytes of a picture, one after the other, and whether they sufficed.
 
 #pragma once
 
@@ -42,20 +42,6 @@ private:
     std::uint64_t chunkOffset_ = 0;  // of the chunk in the file
     std::size_t position_ = 0;       // in the chunk
     bool hasEnded_ = false;
-};
-
-class MemorySource final : public ByteSource {
-public:
-    explicit MemorySource(std::span<const std::uint8_t> bytes) : bytes_(bytes), rest_(bytes) {}
-
-    std::uint64_t size() const override { return bytes_.size(); }
-
-private:
-    std::span<const std::uint8_t> nextChunk() override;
-    bool moveTo(std::uint64_t offset) override;
-
-    std::span<const std::uint8_t> bytes_;
-    std::span<const std::uint8_t> rest_;
 };
 
 }  // namespace kite::images

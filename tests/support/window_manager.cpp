@@ -45,8 +45,20 @@ void askManager(Client client, const char* message, long first, long second = 0)
     XSync(connection(), False);
 }
 
-// Clicks on the button of the window menu until the menu is shown: mwm, still busy with something else,
-// loses a click now and then. Returns the menu's window, or 0.
+// Clicks there until it is done: mwm, still busy with something else, loses a click now and then.
+bool clickUntil(Point place, const Condition& isDone)
+{
+    constexpr int kMostClicks = 5;
+    constexpr seconds kTimeToReact{1};
+    for (int i = 0; i < kMostClicks; ++i) {
+        Robot::instance().moveTo(place);
+        Robot::instance().click();
+        if (pumpUntil(isDone, kTimeToReact * kSlowness)) return true;
+    }
+    return false;
+}
+
+// By the button of the window menu. Returns the menu's window, or 0.
 Window showMwmMenu(Client client, Point button)
 {
     const Point inMenu = clientRect(client).corner() + Point{8, 8};
@@ -55,14 +67,7 @@ Window showMwmMenu(Client client, Point button)
         return windows.empty() ? 0 : windows.front();
     };
     const Window covered = outermost();
-    constexpr int kMostClicks = 5;
-    constexpr seconds kTimeToShow{1};
-    for (int i = 0; i < kMostClicks; ++i) {
-        Robot::instance().moveTo(button);
-        Robot::instance().click();
-        if (pumpUntil([&] { return outermost() != covered; }, kTimeToShow * kSlowness))
-            return outermost();
-    }
+    if (clickUntil(button, [&] { return outermost() != covered; })) return outermost();
     ADD_FAILURE() << "The window menu is not shown.";
     return 0;
 }
@@ -74,8 +79,9 @@ void closeByMwmMenu(Client client, Point button)
     if (!menu) return;
     const Rect rect = rectOnScreen(menu);
     constexpr int kToLastItem = 10;  // pixels from the lower edge
-    Robot::instance().moveTo({rect.centre().x, rect.bottom() - kToLastItem});
-    Robot::instance().click();
+    const Point lastItem{rect.centre().x, rect.bottom() - kToLastItem};
+    if (!clickUntil(lastItem, [=] { return !isViewable(menu); }))
+        ADD_FAILURE() << "The window menu does not go.";
 }
 
 // A Motif shell asks for keys when it has heard that it has the focus: what is typed before goes nowhere.

@@ -209,6 +209,23 @@ GUI_STARTUP_TEST(Owner, WhoseDisplayIsClosedIsNone)
     app.run([] {});
 }
 
+// What was to be painted then is not touched any more.
+GUI_STARTUP_TEST(Owner, MayCloseItsDisplayWhileATextWaitsToBePainted)
+{
+    const IgnoredLeaks widgetsOfAClosedDisplay;
+    const auto [context, shell] = openHostApplication();
+    Widget const text = XtVaCreateManagedWidget("text", xmTextWidgetClass, shell, XmNeditMode,
+                                                XmMULTI_LINE_EDIT, nullptr);
+    XtRealizeWidget(shell);
+    for (int i = 0; i < 5; ++i) guiHTML2Rich(text, "waits to be painted<br>");
+    XtCloseDisplay(XtDisplay(shell));
+    XtDestroyApplicationContext(context);
+    app.run([] {
+        guiWriteLine("painted");
+        settle();
+    });
+}
+
 GUI_STARTUP_TEST(Owner, MayBeAGadget)
 {
     const OwnApplication own;

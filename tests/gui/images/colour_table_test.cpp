@@ -5,6 +5,7 @@
 #include "images/display_colours.h"
 #include "loaded.h"
 #include "round_trips.h"
+#include "toolkit/colours.h"
 
 using namespace kite::testing;
 
@@ -84,4 +85,13 @@ GUI_TEST(ColourTable, AllocatesOnlyWhatIsAskedFor)
               0);
     palette.reset(defaultColormap());
     EXPECT_EQ(roundTripsDuring(display, [&] { EXPECT_EQ(palette.isGood(20), 1); }), 1);
+}
+
+// A text in a colour that cannot be had is white: the host sees that something is amiss.
+GUI_TEST(ColourTable, ColoursOfTextsAreWhiteWhenItIsFull)
+{
+    fillColormap();
+    EXPECT_EQ(kite::allocateColour(app.shell(), {3 * 257, 141 * 257, 59 * 257}),
+              WhitePixelOfScreen(defaultScreen()));
+    EXPECT_EQ(kite::allocateColour(app.shell(), {0, 0, 0}), BlackPixelOfScreen(defaultScreen()));
 }

@@ -89,6 +89,19 @@ GUI_TEST(Lookup, OnlyTheDialogsOwnChildrenAreControls)
     }});
 }
 
+// Of a kind that has no place for a tag.
+GUI_TEST(Lookup, PlainWidgetsOfTheHostsAreNoControls)
+{
+    runDialog({.build = [] { guiLabel(9, 0, 0, 20, "Label"); },
+               .fill =
+                   [] {
+                       XtVaCreateManagedWidget("plain", coreWidgetClass, board(), XmNwidth, 5,
+                                               XmNheight, 5, nullptr);
+                       EXPECT_EQ(guiIdStatus(9), 1);
+                       EXPECT_EQ(guiIdStatus(0), -1);
+                   }});
+}
+
 GUI_TEST(Lookup, ADestroyedControlIsGoneAtOnce)
 {
     runDialog({.build = [] { guiEdit(2, 0, 0, 40, 0, 0); },

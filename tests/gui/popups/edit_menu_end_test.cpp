@@ -120,6 +120,7 @@ GUI_TEST(EditMenuEnd, OtherButtonsAndPlacesHaveNone)
         expectNoMenu(controlOf(kLabel));
         expectNoMenu(newestBoard(), RightButton, {2, 2});
     });
+    ASSERT_TRUE(wm::waitForFocus(app.shell())) << "the dialog has gone from the screen";
     expectNoMenu(app.find("v_menubar"), RightButton, {300, 4});
 }
 
