@@ -217,6 +217,7 @@ GUI_STARTUP_TEST(Owner, MayCloseItsDisplayWhileATextWaitsToBePainted)
     Widget const text = XtVaCreateManagedWidget("text", xmTextWidgetClass, shell, XmNeditMode,
                                                 XmMULTI_LINE_EDIT, nullptr);
     XtRealizeWidget(shell);
+    guiSetOwner(shell);
     for (int i = 0; i < 5; ++i) guiHTML2Rich(text, "waits to be painted<br>");
     XtCloseDisplay(XtDisplay(shell));
     XtDestroyApplicationContext(context);
