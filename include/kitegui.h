@@ -800,7 +800,8 @@ KITEGUI_API int guiRadio(int id, int row, int x, int width, const char *text);
 KITEGUI_API int guiLine(int id, int row, int rows, int x, int width);
 
 /*
- * A place for a picture (guiSetImage), rows * 14 - 2 units high. A click of button 1 gives it the keyboard.
+ * A place for a picture (guiSetImage), rows * 14 - 2 units high. A click of button 1 gives it the keyboard, which
+ * the Tab key then moves to the first control of the dialog.
  *
  *   framed  non-zero: with a shadow of two pixels
  */

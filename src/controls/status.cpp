@@ -45,7 +45,9 @@ void guiEnable(int id, int enable)
     const EventsSuppressed quiet;
     if (control.type == Edit) keepHidden(control.widget, enable != 0);
     XtSetSensitive(control.widget, enable != 0);
-    if (!enable && kWithCursor.has(control.type)) hideInsertionCursor(control.widget);
+    if (enable) return;
+    if (kWithCursor.has(control.type)) hideInsertionCursor(control.widget);
+    leaveDisabled(control.widget);
 }
 
 void guiSetFocus(int id)

@@ -4,6 +4,7 @@
 
 #include "frame/dispatcher.h"
 #include "toolkit/never_destroyed.h"
+#include "toolkit/soon.h"
 #include "toolkit/widget_ref.h"
 
 namespace kite {
@@ -25,6 +26,14 @@ void moveLate(XtPointer, XtIntervalId*)
     XmProcessTraversal(control, XmTRAVERSE_CURRENT);
 }
 
+void moveOn(Widget control)
+{
+    Widget const focus = XmGetFocusWidget(control);
+    if (!focus || XtIsSensitive(focus)) return;
+    const EventsSuppressed quiet;
+    XmProcessTraversal(focus, XmTRAVERSE_NEXT_TAB_GROUP);
+}
+
 }  // namespace
 
 FocusMoving::FocusMoving()
@@ -35,6 +44,11 @@ FocusMoving::FocusMoving()
 FocusMoving::~FocusMoving()
 {
     --moving;
+}
+
+void leaveDisabled(Widget control)
+{
+    if (moving > 0) soon(control, moveOn);
 }
 
 void moveFocus(Widget control)

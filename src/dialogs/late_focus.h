@@ -19,6 +19,9 @@ public:
     FocusMoving& operator=(const FocusMoving&) = delete;
 };
 
+// The control has been disabled. The toolkit moves the focus on, but not while it is moving.
+void leaveDisabled(Widget control);
+
 // Moves the focus to the control, once more when the toolkit is done if it is moving right now.
 void moveFocus(Widget control);
 

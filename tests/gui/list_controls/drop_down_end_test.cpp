@@ -1,5 +1,7 @@
 // The dialog is closed while a list has dropped down: nothing of it stays, and the mouse is free again.
 
+#include <Xm/DisplayP.h>
+
 #include "list_controls_support.h"
 
 using namespace kite::testing;
@@ -9,6 +11,7 @@ namespace {
 
 constexpr int kBox = 5;
 constexpr int kButton = 6;
+constexpr int kEdit = 7;
 
 // Windows of the display that can be seen.
 int windowsOnScreen()
@@ -29,6 +32,15 @@ int windowsOnScreen()
     XSync(display, False);
     XFree(windows);
     return visible;
+}
+
+// None but the frame is noted by the toolkit: it would look at them whenever another window comes or goes.
+bool isNothingModal()
+{
+    auto* const display = reinterpret_cast<XmDisplay>(XmGetXmDisplay(toolkit::display()));
+    const auto* const modals = display->display.modals;
+    return std::all_of(modals, modals + display->display.numModals,
+                       [](const auto& modal) { return modal.wid == App::instance().shell(); });
 }
 
 void expectMouseIsFree()
@@ -59,6 +71,7 @@ void closeWhileOpen(int before, const std::function<void(int)>& make,
     });
     EXPECT_EQ(guiRunDialog(Recorder::dialogHandler()), 3);
     EXPECT_FALSE(newestBoard());
+    EXPECT_TRUE(isNothingModal());
     EXPECT_TRUE(pumpUntil([&] { return windowsOnScreen() == before; }));
     expectMouseIsFree();
 }
@@ -100,6 +113,27 @@ GUI_TEST(DropDownEnd, ByThePick)
         robot.moveTo(list, middleOfItem(list, 2));
         robot.click();
     });
+}
+
+// The press on the arrow takes the keyboard from the edit, and the list drops down after that.
+GUI_TEST(DropDownEnd, BeforeItHasDroppedDown)
+{
+    recorder.onEvent(GUI_EVENT_LEFT, kEdit, [] { guiClose(3); });
+    for (const auto make : {guiChoice, guiCombo}) {
+        const int before = windowsOnScreen();
+        for (int i = 0; i < 3; ++i) {
+            ASSERT_EQ(guiDialog(""), 0);
+            guiEdit(kEdit, 0, 0, 80, 0, 0);
+            make(kBox, 1, 0, 80);
+            guiLabel(-1, 9, 0, 80, "Room for the list");
+            app.whenShown("v_dlgbbr", [](Shown) { clickArrow(kBox); });
+            EXPECT_EQ(guiRunDialog(recorder.dialogHandler()), 3);
+            EXPECT_TRUE(isNothingModal());
+        }
+        EXPECT_TRUE(pumpUntil([&] { return windowsOnScreen() == before; }));
+    }
+    recorder.forgetReactions();
+    expectMouseIsFree();
 }
 
 // An arrow that is held goes as well.
