@@ -99,7 +99,11 @@ Step fileBoxAgain(const std::function<void(Shown)>& action)
                 Widget const box = findWidget("v_filebox");
                 return box && guiGetTopWnd() == box && isShown(box);
             },
-            [action] { action(Shown{findWidget("v_filebox")}); }};
+            [action] {
+                const Shown box{findWidget("v_filebox")};
+                EXPECT_TRUE(wm::waitForFocus(box.widget()));
+                action(box);
+            }};
 }
 
 Widget filePart(Widget box, unsigned char which)
