@@ -59,6 +59,14 @@ Widget currentPopup()
     return current ? current->menu.get() : nullptr;
 }
 
+// Whoever destroys the window below it: Xt would go on with the grabs of a menu that there is no more.
+void giveBackMouseAndKeyboard(Widget menu, XtPointer, XtPointer)
+{
+    if (!XtIsManaged(menu)) return;
+    XtUngrabPointer(menu, CurrentTime);
+    XtUngrabKeyboard(menu, CurrentTime);
+}
+
 XtPointer asUserData(std::intptr_t number)
 {
     return reinterpret_cast<XtPointer>(number);
@@ -179,6 +187,7 @@ int guiCreatePopMenu(void)
     XtSetArg(arguments[1], XmNhighlightThickness, 0);
     Widget const menu = XmCreateSimplePopupMenu(top, const_cast<char*>("p_menu"), arguments, 2);
     if (!menu) return 0;
+    XtAddCallback(menu, XmNdestroyCallback, giveBackMouseAndKeyboard, nullptr);
     current = std::make_unique<Popup>(menu);
     return 1;
 }

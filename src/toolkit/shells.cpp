@@ -7,9 +7,9 @@
 #include <algorithm>
 #include <vector>
 
-#include "toolkit/dropped_lists.h"
 #include "toolkit/nested_loop.h"
 #include "toolkit/never_destroyed.h"
+#include "toolkit/popped_up.h"
 
 namespace kite {
 
@@ -66,7 +66,7 @@ Widget shellOf(Widget widget)
 
 void destroyShell(Widget shell)
 {
-    takeDownLists(shell);
+    takeDownPopups(shell);
     XtUngrabKeyboard(shell, CurrentTime);
     XtAddCallback(shell, XmNdestroyCallback, forgetPathOfKeys,
                   nullptr);  // behind the toolkit's own
@@ -76,7 +76,7 @@ void destroyShell(Widget shell)
 void takeAway(Widget widget, int loopsBefore)
 {
     if (loopsRunning() <= loopsBefore + 1) return destroyShell(widget);
-    takeDownLists(widget);
+    takeDownPopups(widget);
     XtUngrabKeyboard(widget, CurrentTime);
     if (XtIsShell(widget) && XtIsRealized(widget))
         XWithdrawWindow(XtDisplay(widget), XtWindow(widget),

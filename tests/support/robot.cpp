@@ -18,7 +18,9 @@ namespace kite::testing {
 
 namespace {
 
-constexpr int kDragSteps = 8;                 // enough for every program to notice a drag
+constexpr int kDragSteps = 8;  // enough for every program to notice a drag
+constexpr unsigned long kBetweenKeys =
+    1;  // milliseconds: Motif's menus take keys of the same one for one key
 constexpr unsigned long kBetweenClicks = 20;  // milliseconds, of a double click
 constexpr milliseconds kReleaseTime{500};     // a release is lost when its window goes: no failure
 
@@ -34,9 +36,9 @@ void sync()
     XSync(connection(), False);
 }
 
-void fakeKey(KeyCode code, bool isDown)
+void fakeKey(KeyCode code, bool isDown, unsigned long after = 0)
 {
-    XTestFakeKeyEvent(connection(), code, isDown, CurrentTime);
+    XTestFakeKeyEvent(connection(), code, isDown, after);
 }
 
 void fakeButton(unsigned button, bool isDown, unsigned long after = 0)
@@ -59,7 +61,7 @@ void fakeStroke(KeySym symbol, unsigned modifiers)
     }
     const unsigned all = modifiers | (key.shift ? unsigned{Shift} : 0);
     fakeModifiers(all, true);
-    fakeKey(key.code, true);
+    fakeKey(key.code, true, kBetweenKeys);
     fakeKey(key.code, false);
     fakeModifiers(all, false);
 }

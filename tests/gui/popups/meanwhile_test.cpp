@@ -66,6 +66,38 @@ GUI_TEST(PopupWait, EndsWithTheDialog)
     }
 }
 
+// However it goes: the drop-down list of the next dialog has mouse and keyboard.
+GUI_TEST(PopupWait, LeavesNoGrabBehind)
+{
+    const std::function<void()> ways[] = {
+        [] { guiClose(5); },
+        [] { wm::requestClose(guiGetTopWnd()); },
+        [] { XtDestroyWidget(XtParent(guiGetTopWnd())); },
+    };
+    recorder.onEvent(GUI_EVENT_COMMAND, 0, [] { guiClose(5); });
+    recorder.onEvent(GUI_EVENT_INIT, [] {
+        if (guiIdStatus(6) < 0) return;
+        guiAppendItem(6, "one");
+        guiAppendItem(6, "two");
+    });
+    for (const auto& close : ways) {
+        SCOPED_TRACE(&close - ways);
+        ASSERT_EQ(guiDialog("Dialog"), 0);
+        buildDialog();
+        app.whenShown("v_dlgbbr", [&](Shown) { runPopup([&](Shown) { soon(close); }); });
+        guiRunDialog(recorder.dialogHandler());
+        EXPECT_TRUE(isPopupGone());
+        runDialog([] { guiChoice(6, 0, 0, 60); },
+                  [this](Shown) {
+                      Widget const choice = controlOf(6);
+                      robot.click(choice, LeftButton, Point{rectOf(choice).width - 8, 8});
+                      robot.keyHandled(XK_Down);
+                      robot.keyHandled(XK_Return);
+                      EXPECT_EQ(guiGetPos(6), 1);
+                  });
+    }
+}
+
 GUI_STARTUP_TEST(PopupWait, EndsWithTheFrame)
 {
     int result = -5;
