@@ -7,7 +7,8 @@ endfunction()
 #                [TIMEOUT seconds] [SCREENS WxHxD…] [SEPARATE])
 #
 # A program of GUI tests, and one CTest test for each case of it, each window manager (mwm only when
-# none is named) and each screen (a large one when none is named). TIMEOUT is for one case, 30 by default.
+# none is named) and each screen (a large one when none is named). TIMEOUT is for one case, 30 by default;
+# cases with a time of their own begin first, so that nothing waits for them at the end.
 # SEPARATE: each file is compiled by itself, since several give the same name to things of their own. The
 # tests run in parallel: each has a display of its own.
 function(kite_gui_tests)
@@ -15,7 +16,10 @@ function(kite_gui_tests)
   if(NOT TEST_WM)
     set(TEST_WM mwm)
   endif()
-  if(NOT TEST_TIMEOUT)
+  set(cost 0)
+  if(TEST_TIMEOUT)
+    set(cost ${TEST_TIMEOUT})
+  else()
     set(TEST_TIMEOUT 30)
     if(KITEGUI_SANITIZE)
       set(TEST_TIMEOUT 180)
@@ -57,7 +61,7 @@ function(kite_gui_tests)
         TEST_PREFIX "${prefix}." TEST_SUFFIX "${suffix}" TEST_LIST ${TEST_NAME}_${manager}_${screen}
         NO_PRETTY_VALUES
         EXTRA_ARGS ${arguments}
-        PROPERTIES TIMEOUT ${limit} LABELS gui)
+        PROPERTIES TIMEOUT ${limit} COST ${cost} LABELS gui)
     endforeach()
   endforeach()
 endfunction()
