@@ -1413,7 +1413,8 @@ KITEGUI_API int guiGetDefPrnPage(void);
  *   wrap      1 or 2: long lines are wrapped
  *
  * Returns 0 when the command was run, whatever came of it; -1 for a null or empty file, an empty command, a command
- * line of more than 2047 bytes, and where there is no window that the box could belong to; -1 after "Could not execute print command".
+ * line of more than 2047 bytes, and where there is no window that the box could belong to; -1 after "Could not
+ * execute print command".
  */
 KITEGUI_API int guiPrintFile(const char *file, int a2, int a3, int a4, int a5, int a6, int a7,
                              int wrap);
